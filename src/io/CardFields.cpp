@@ -1,0 +1,104 @@
+#include "io/CardFields.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+#include "io/NumberFormat.h"
+
+namespace Tevra {
+namespace {
+
+/// Narrowest field that can hold a digit, a point and an exponent.
+constexpr int kMinRealWidth = 6;
+/// Narrowest field that can spare a place for the sign.
+constexpr int kMinSignWidth = 8;
+
+char* Fill(char* out, char c, int count) {
+    std::memset(out, c, static_cast<std::size_t>(std::max(count, 0)));
+    return out + std::max(count, 0);
+}
+
+char* Copy(char* out, const char* from, const char* to) {
+    std::memcpy(out, from, static_cast<std::size_t>(to - from));
+    return out + (to - from);
+}
+
+/// Removes the character `fromEnd` places before the end (1 = the last one) if it is `c`.
+char* DeleteIf(char* first, char* last, std::ptrdiff_t fromEnd, char c) {
+    if (last - first < fromEnd || *(last - fromEnd) != c) {
+        return last;
+    }
+    std::memmove(last - fromEnd, last - fromEnd + 1, static_cast<std::size_t>(fromEnd - 1));
+    return last - 1;
+}
+
+/// Takes a character out of the exponent of "%e" text: the leading zero of a two-digit exponent.
+/// Kept as files in the field have it: of three-digit exponents the plus goes, and a zero in the
+/// middle goes with it, so that 1e100 reads as 1.000000e10 and 1e-308 as 1.000000e-38.
+char* ShortenExponent(char* first, char* last) {
+    last = DeleteIf(first, last, 4, '+');
+    return DeleteIf(first, last, 2, '0');
+}
+
+}  // namespace
+
+char* AppendIntField(char* out, long long value, int width) {
+    width = std::clamp(width, -kMaxFieldWidth, kMaxFieldWidth);
+    char* const end = AppendInt(out, value, width);
+    const int length = static_cast<int>(end - out);
+    if (width >= 1 && length > width) {
+        return Fill(end, '*', width);
+    }
+    return Fill(end, ' ', -width - length);
+}
+
+char* AppendRealField(char* out, double value, int width, bool signSpace) {
+    width = std::min(width, kMaxFieldWidth);
+    if (width < kMinRealWidth) {
+        return Fill(out, '*', width);
+    }
+    char text[kMaxNumberText];
+    const char* const end = ShortenExponent(text, AppendExp(text, value));
+    const int length = static_cast<int>(end - text);
+    const bool reserve = signSpace && width >= kMinSignWidth && value > 0.0;
+    const int room = reserve ? width - 1 : width;
+    if (length == room) {
+        // Kept: a text that just fits has no blank before it, even where one was set aside.
+        return Copy(out, text, end);
+    }
+    out = Fill(out, ' ', width - std::min(length, room));
+    if (length < room) {
+        return Copy(out, text, end);
+    }
+    const char* exponent = end - 1;  // only numbers with an exponent are ever this long
+    while (*exponent != 'e') {
+        --exponent;
+    }
+    out = Copy(out, text, text + room - (end - exponent));
+    return Copy(out, exponent, end);
+}
+
+std::string FormatIntField(long long value, int width) {
+    std::string field;
+    AppendIntField(field, value, width);
+    return field;
+}
+
+std::string FormatRealField(double value, int width, bool signSpace) {
+    std::string field;
+    AppendRealField(field, value, width, signSpace);
+    return field;
+}
+
+void AppendIntField(std::string& out, long long value, int width) {
+    char field[kMaxFieldWidth];
+    out.append(field, AppendIntField(field, value, width));
+}
+
+void AppendRealField(std::string& out, double value, int width, bool signSpace) {
+    char field[kMaxFieldWidth];
+    out.append(field, AppendRealField(field, value, width, signSpace));
+}
+
+}  // namespace Tevra

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <array>
+#include <span>
+
+#include "model/ElementType.h"
+
+namespace Tevra {
+
+/// One face of a solid: places of its corners in the topology (from 1), counter-clockwise as seen
+/// from outside, so that the normal points outwards; the fourth is 0 for triangles.
+using SolidFace = std::array<int, 4>;
+
+/// Faces of a solid element type in the order of their numbers, from 1: bottom, top (where there
+/// are two), then the sides round from the edge between nodes 1 and 2. Empty for other types.
+std::span<const SolidFace> FacesOf(ElementType type);
+
+/// Number of corner nodes of a 2D element type, which come first in its topology: 3 or 4; 0 for
+/// other types.
+int CornerCount(ElementType type);
+
+}  // namespace Tevra

@@ -1,0 +1,40 @@
+#include "model/Material.h"
+
+namespace Tevra::Data {
+
+CMatAnal::CMatAnal(std::wstring name, double e, double nu, double density, double alpha)
+    : NamedEntity(std::move(name)), m_density(density) {
+    m_e[0] = e;
+    m_nu[0] = nu;
+    m_g[0] = e / (2.0 * (1.0 + nu));
+    m_alpha[0] = alpha;
+}
+
+double CMatAnal::Param(int index) const {
+    switch (index) {
+        case kYoung:
+            return m_e[0];
+        case kPoisson:
+            return m_nu[0];
+        case kDensity:
+            return m_density;
+        case kExpansion:
+            return m_alpha[0];
+        case kShear:
+            return m_g[0];
+        case kTangent:
+            return m_tangent;
+        case kHardening:
+            return m_hardening;
+        case kYield:
+            return m_yield;
+        default:
+            break;
+    }
+    const int further = index - kFirstModelParam;
+    return further >= 0 && further < NumOpsParam()
+               ? m_modelParams[static_cast<std::size_t>(further)]
+               : 0.0;
+}
+
+}  // namespace Tevra::Data

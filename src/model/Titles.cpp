@@ -1,0 +1,81 @@
+#include "model/Titles.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <string_view>
+
+#include "platform/text/Ascii.h"
+#include "platform/ui/HostServices.h"
+
+namespace Tevra {
+
+std::wstring CProgTitles::ProgramVersion(bool major, bool minor, bool release) const {
+    std::wstring text;
+    const auto add = [&text](bool wanted, int part) {
+        if (wanted) {
+            text += (text.empty() ? L"" : L".") + std::to_wstring(part);
+        }
+    };
+    add(major, m_major);
+    add(minor, m_minor);
+    add(release, m_release);
+    return text;
+}
+
+void CProgTitles::SetProgramVersion(const std::wstring& text) {
+    int* const parts[] = {&m_major, &m_minor, &m_release};
+    std::size_t at = 0;
+    for (int* part : parts) {
+        *part = 0;
+        for (; at < text.size() && text[at] != L'.'; ++at) {
+            if (Text::IsDigit(text[at]) && *part < 100'000'000) {
+                *part = *part * 10 + (text[at] - L'0');
+            }
+        }
+        ++at;
+    }
+}
+
+const CHistoryRec& CHistory::Record(int i) const {
+    static const CHistoryRec kNone;
+    return i >= 1 && i <= NumRecord() ? m_records[static_cast<std::size_t>(i - 1)] : kNone;
+}
+
+bool CHistory::SetRecord(int i, CHistoryRec record) {
+    if (i < 1 || i > NumRecord() + 1) {
+        return false;
+    }
+    if (i == NumRecord() + 1) {
+        m_records.push_back(std::move(record));
+    } else {
+        m_records[static_cast<std::size_t>(i - 1)] = std::move(record);
+    }
+    return true;
+}
+
+void CHistory::UpdateSession(CHistoryRec& record) {
+    const std::tm now = Host().LocalTime();
+    wchar_t text[64];
+    std::swprintf(text, std::size(text), L"%04d-%02d-%02d", now.tm_year + 1900, now.tm_mon + 1,
+                  now.tm_mday);
+    record.date = text;
+    std::swprintf(text, std::size(text), L"%02d:%02d:%02d", now.tm_hour, now.tm_min, now.tm_sec);
+    record.time = text;
+    record.user = Host().UserName();
+}
+
+std::wstring SidTagValue(const std::wstring& sid, const std::wstring& tag) {
+    std::wstring_view rest = sid;
+    while (!rest.empty()) {
+        const std::wstring_view item = rest.substr(0, rest.find(L';'));
+        rest.remove_prefix(std::min(item.size() + 1, rest.size()));
+        const std::size_t equals = item.find(L'=');
+        if (equals != std::wstring_view::npos &&
+            Text::EqualNoCase(Text::Trim(item.substr(0, equals)), std::wstring_view(tag))) {
+            return std::wstring(Text::Trim(item.substr(equals + 1)));
+        }
+    }
+    return {};
+}
+
+}  // namespace Tevra

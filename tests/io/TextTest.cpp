@@ -1,0 +1,16 @@
+#include <gtest/gtest.h>
+
+#include "io/Text.h"
+
+using namespace Tevra;
+
+namespace {
+
+TEST(CardText, StaysOnOneLine) {
+    std::string card = "$ a\nb ";
+    AppendCardText(card, L"Träger\r\n3\ttab\n");
+    EXPECT_EQ(card, "$ a\nb Tr\xC3\xA4ger  3\ttab ");
+    EXPECT_EQ(CardText(std::wstring(1, static_cast<wchar_t>(0xD800))), "\xEF\xBF\xBD");
+}
+
+}  // namespace

@@ -1,0 +1,1 @@
+#error "the installed headers must not need nlohmann JSON"

@@ -1,0 +1,173 @@
+#include "vynx/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <iostream>
+#include <map>
+
+#include "vynx/Console.h"
+#include "vynx/Format.h"
+#include "vynx/commands/Commands.h"
+
+namespace Vynx {
+
+namespace {
+
+constexpr const char* kFooter =
+    "Exit status: 0 done, 1 a file could not be read or written, 2 wrong command line.\n"
+    "Notes and warnings go to standard error.";
+
+std::string Ids(bool readable) {
+    std::string ids;
+    for (const Format& format : Formats()) {
+        if (readable ? format.read != nullptr : format.write != nullptr) {
+            ids += (ids.empty() ? "" : ", ") + std::string(format.id);
+        }
+    }
+    return ids;
+}
+
+/// Adds the options of all formats to the export command. An option that several formats have
+/// stands once; whether the chosen format has it is looked at when the format runs.
+class FormatOptions {
+public:
+    void AddTo(CLI::App& command) {
+        for (const Format& format : Formats()) {
+            for (const OptionSpec& spec : format.options) {
+                Add(command, format, spec);
+            }
+        }
+    }
+    GivenOptions Given() const {
+        GivenOptions given;
+        for (const auto& [name, option] : m_options) {
+            if (option->count() > 0) {
+                given[name] = m_texts.at(name);
+            }
+        }
+        return given;
+    }
+
+private:
+    void Add(CLI::App& command, const Format& format, const OptionSpec& spec) {
+        const std::string name(spec.name);
+        std::string help = std::string(format.id) + ": " + std::string(spec.help);
+        if (!spec.fallback.empty()) {
+            help += " (" + std::string(spec.fallback) + ")";
+        }
+        const auto known = m_options.find(name);
+        if (known != m_options.end()) {
+            known->second->description(known->second->get_description() + "; " + help);
+            return;
+        }
+        CLI::Option* option = spec.kind == OptionKind::Flag
+                                  ? command.add_flag("--" + name, help)
+                                  : command.add_option("--" + name, m_texts[name], help);
+        if (spec.kind != OptionKind::Flag) {
+            option->type_name(ValueName(spec));
+        }
+        option->group("Options of formats");
+        m_texts.try_emplace(name);
+        m_options[name] = option;
+    }
+
+    std::map<std::string, std::string> m_texts;
+    std::map<std::string, CLI::Option*> m_options;
+};
+
+void AddExport(CLI::App& app, ExportRequest& request, FormatOptions& options) {
+    CLI::App* command = app.add_subcommand("export", "Write a model in another format");
+    command->add_option("MODEL", request.model, "Model file")->required();
+    command->add_option("--to", request.format, "Format: " + Ids(false) + ", or all")
+        ->required()
+        ->type_name("FORMAT");
+    command
+        ->add_option("-o,--output", request.output,
+                     "File to write (- is standard output), or a folder with --to all")
+        ->required()
+        ->type_name("PATH");
+    command->add_option("--from", request.from, "Format of MODEL, when its extension does not say")
+        ->type_name("FORMAT");
+    options.AddTo(*command);
+    command->footer(kFooter);
+    command->callback([&] {
+        request.options = options.Given();
+        Export(request);
+    });
+}
+
+void AddImport(CLI::App& app, ImportRequest& request) {
+    CLI::App* command =
+        app.add_subcommand("import", "Read a file and write it as a model document");
+    command->add_option("FILE", request.file, "File to read: " + Ids(true))->required();
+    command->add_option("-o,--output", request.output, "Document to write (- is standard output)")
+        ->required()
+        ->type_name("PATH");
+    command->add_option("--from", request.from, "Format of FILE, when its extension does not say")
+        ->type_name("FORMAT");
+    command->footer(kFooter);
+    command->callback([&] { Import(request); });
+}
+
+void AddInfo(CLI::App& app, InfoRequest& request) {
+    CLI::App* command = app.add_subcommand("info", "Print what a model holds");
+    command->add_option("MODEL", request.model, "Model file")->required();
+    command->add_option("--from", request.from, "Format of MODEL, when its extension does not say")
+        ->type_name("FORMAT");
+    command->footer(kFooter);
+    command->callback([&] { Info(request); });
+}
+
+int Parse(CLI::App& app, int count, const char* const* arguments) {
+    try {
+        app.parse(count, arguments);
+        return kDone;
+    } catch (const CLI::Success& success) {
+        return app.exit(success);
+    } catch (const CLI::ParseError& error) {
+        Say("vynx: " + std::string(error.what()));
+        Say("Run vynx --help, or vynx COMMAND --help, for more.");
+        return kUsage;
+    }
+}
+
+}  // namespace
+
+int Run(int count, const char* const* arguments) {
+    CLI::App app("Interchange of structural models with other programs", "vynx");
+    app.require_subcommand(1);
+    app.set_version_flag("--version", "vynx " VYN_VERSION);
+    app.footer(kFooter);
+
+    ExportRequest exportRequest;
+    ImportRequest importRequest;
+    InfoRequest infoRequest;
+    FormatOptions options;
+    AddExport(app, exportRequest, options);
+    AddImport(app, importRequest);
+    AddInfo(app, infoRequest);
+    app.add_subcommand("formats", "List the formats and their options")->callback(ListFormats);
+
+    ToolHost host;
+    const Tevra::ScopedHost scope(host);
+    int status = kFailed;
+    try {
+        status = Parse(app, count, arguments);
+    } catch (const Failure& failure) {
+        Say("vynx: " + std::string(failure.what()));
+        return failure.ExitStatus();
+    } catch (const std::bad_alloc&) {
+        Say("vynx: out of memory");
+        return kFailed;
+    } catch (const std::exception& error) {
+        Say("vynx: " + std::string(error.what()));
+        return kFailed;
+    }
+    if (status == kDone && !std::cout.flush().good()) {
+        Say("vynx: standard output can't be written");
+        return kFailed;
+    }
+    return status;
+}
+
+}  // namespace Vynx

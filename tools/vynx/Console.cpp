@@ -1,0 +1,57 @@
+#include "vynx/Console.h"
+
+#include <iostream>
+#include <unistd.h>
+
+#include "platform/text/Utf8.h"
+#include "vynx/OutputFile.h"
+
+namespace Vynx {
+
+namespace {
+
+constexpr std::string_view kWipe = "\r\x1b[K";
+
+/// Takes the host's tags ("<red>", "</red>") out of a line of the log.
+std::string WithoutTags(std::string line) {
+    for (const std::string_view tag : {"<red>", "</red>"}) {
+        for (std::size_t at = line.find(tag); at != std::string::npos; at = line.find(tag)) {
+            line.erase(at, tag.size());
+        }
+    }
+    return line;
+}
+
+}  // namespace
+
+void Say(std::string_view line) {
+    std::cerr << line << '\n';
+}
+
+void SayLog(const std::wstring& log) {
+    if (!log.empty()) {
+        Say(WithoutTags(Tevra::Text::ToUtf8(log)));
+    }
+}
+
+Progress::Progress(const std::string& what) : m_shown(isatty(STDERR_FILENO) != 0) {
+    if (m_shown) {
+        std::cerr << what << " ..." << std::flush;
+    }
+}
+
+Progress::~Progress() {
+    if (m_shown) {
+        std::cerr << kWipe << std::flush;
+    }
+}
+
+void ToolHost::ShowMessage(const std::wstring& text) {
+    ConsoleHost::ShowMessage(m_output != nullptr ? m_output->WithTarget(text) : text);
+}
+
+void ToolHost::Log(const std::wstring& text, int level, int flag) {
+    ConsoleHost::Log(m_output != nullptr ? m_output->WithTarget(text) : text, level, flag);
+}
+
+}  // namespace Vynx

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "model/VynData.h"
+
+namespace Vynx {
+
+/// Reads a model file: by its extension, or as the format `from` when that is not empty. Numbers
+/// that refer to records which do not exist are named on standard error. Fails with `kUsage` for
+/// formats that can't be read, with `kFailed` for files that can't.
+void LoadModel(const std::string& file, const std::string& from, Tevra::CVynData& model);
+
+}  // namespace Vynx

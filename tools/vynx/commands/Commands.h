@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "vynx/Failure.h"
+#include "vynx/Options.h"
+
+/// The commands of vynx, one file each. They write what they were asked for, print what there is
+/// to say, and throw `Failure` when they can't.
+namespace Vynx {
+
+struct ExportRequest {
+    std::string model;
+    std::string from;    ///< format of the model file, empty: by extension
+    std::string format;  ///< id, or "all"
+    std::string output;  ///< file, "-", or a folder for "all"
+    GivenOptions options;
+};
+void Export(const ExportRequest& request);
+
+struct ImportRequest {
+    std::string file;
+    std::string from;
+    std::string output;
+};
+/// Reads a file of any readable format and writes it as a model document.
+void Import(const ImportRequest& request);
+
+struct InfoRequest {
+    std::string model;
+    std::string from;
+};
+/// Prints what a model holds.
+void Info(const InfoRequest& request);
+
+/// Prints the host's export formats and those of this program with their options.
+void ListFormats();
+
+}  // namespace Vynx

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "io/StreamFile.h"
+#include "platform/text/HostPath.h"
+#include "vynx/Format.h"
+
+namespace Vynx {
+
+// The rows of the format table, each in a file of its own beside this one.
+Format DampingFormat();
+Format DocumentFormat();
+
+/// Runs a single-file writer of the library on a job.
+inline bool RunWriter(Tevra::CStreamFile& writer, ExportJob& job) {
+    writer.SetData(&job.model);
+    const bool written = writer.OpenWrite(Tevra::Text::FromPath(job.path));
+    job.log = writer.ErrorLog();
+    return written;
+}
+
+}  // namespace Vynx
