@@ -2,12 +2,23 @@
 
 namespace Tevra::Data {
 
+namespace {
+
+constexpr Vec3<double> kY{0.0, 1.0, 0.0};
+constexpr Vec3<double> kZ{0.0, 0.0, 1.0};
+/// Sine of the angle to x below which a direction lies along it.
+constexpr double kAlong = 1e-9;
+
+}  // namespace
+
 Vec3<double> CAxis::ZAxis() const {
     const Vec3<double> x = XAxis();
-    // A plane direction along x fixes nothing: the global axis least along x stands in for it.
-    const Vec3<double> other =
-        std::fabs(x.z) < 0.9 ? Vec3<double>{0.0, 0.0, 1.0} : Vec3<double>{0.0, 1.0, 0.0};
-    return Unit(Cross(x, Unit(m_xyPlane, other)), Unit(Cross(x, other), other));
+    const Vec3<double> normal = Cross(x, Unit(m_xyPlane, kY));
+    if (Length(normal) > kAlong) {
+        return Unit(normal, kZ);
+    }
+    // A plane direction along x fixes nothing: global Y stands in for it, or Z when Y is x too.
+    return Unit(Cross(x, std::fabs(x.y) < 0.9 ? kY : kZ), kZ);
 }
 
 }  // namespace Tevra::Data

@@ -10,21 +10,24 @@ namespace Tevra::Data {
 
 namespace {
 
-/// The node at a loaded corner (from 1) of an element: of a 2D element, or of a face of a solid.
+/// Places in the topology (from 1, 0 none) of the corners of a loaded face: a 2D element, or a face
+/// of a solid.
+SolidFace CornersOf(ElementType type, int face) {
+    const int corners = CornerCount(type);
+    if (corners > 0) {
+        return {1, 2, 3, corners == 4 ? 4 : 0};
+    }
+    const auto faces = FacesOf(type);
+    return face >= 1 && face <= static_cast<int>(faces.size())
+               ? faces[static_cast<std::size_t>(face - 1)]
+               : SolidFace{};
+}
+
+/// The node at a corner (from 1) of a loaded face, 0 when there is none.
 int CornerNode(const CElement& element, int face, int corner) {
-    if (corner < 1 || corner > 4) {
-        return 0;
-    }
-    if (element.Is2D()) {
-        return corner <= CornerCount(element.Type()) ? element.Topo(corner) : 0;
-    }
-    const auto faces = FacesOf(element.Type());
-    if (face < 1 || face > static_cast<int>(faces.size())) {
-        return 0;
-    }
-    const int place =
-        faces[static_cast<std::size_t>(face - 1)][static_cast<std::size_t>(corner - 1)];
-    return place > 0 ? element.Topo(place) : 0;
+    return corner >= 1 && corner <= 4
+               ? element.Topo(CornersOf(element.Type(), face)[static_cast<std::size_t>(corner - 1)])
+               : 0;
 }
 
 }  // namespace
@@ -113,16 +116,13 @@ double CFaceLoad::GetFaceLoadValue(const CVynData& model, int element, int corne
 }
 
 bool CFaceLoad::ValidatePointLoadPosition(const CVynData& model, int element) const {
+    const SolidFace corners = CornersOf(model.Elem(element).Type(), m_face);
     const double r = m_position.x;
     const double s = m_position.y;
-    switch (CornerCount(model.Elem(element).Type())) {
-        case 4:
-            return r >= -1.0 && r <= 1.0 && s >= -1.0 && s <= 1.0;
-        case 3:
-            return r >= 0.0 && s >= 0.0 && r + s <= 1.0;
-        default:
-            return false;
+    if (corners[3] != 0) {
+        return r >= -1.0 && r <= 1.0 && s >= -1.0 && s <= 1.0;
     }
+    return corners[0] != 0 && r >= 0.0 && s >= 0.0 && r + s <= 1.0;
 }
 
 std::vector<int> CGravityLoad::LoadedNodes(const CVynData& model) const {

@@ -206,7 +206,8 @@ public:
     /// The value at corner `corner` (from 1) of an element, whatever the type. NaN for a point load
     /// and for corners that the element does not have.
     double GetFaceLoadValue(const CVynData& model, int element, int corner) const;
-    /// True when the position of a point load lies on the element.
+    /// True when the position of a point load lies on the element, or on the loaded face of a
+    /// solid: r and s from -1 to 1 with four corners, area coordinates with three.
     bool ValidatePointLoadPosition(const CVynData& model, int element) const;
 
     void SetType(FaceLoadType type) { m_type = type; }

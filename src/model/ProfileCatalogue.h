@@ -42,9 +42,9 @@ public:
 
     /// Adds the profiles of a text, one to a line: group, name, shape word, dimensions in mm, then
     /// as far as given r= (root radius), ro= (outer corners), A=, Iyy=, Izz=, J= (cm); "#" begins a
-    /// comment; "units in" changes to inches. A name that is already there is replaced. False when
-    /// a line can't be read, its dimensions make no section, or stated properties do not fit them;
-    /// then `error` names the line and nothing is added.
+    /// comment; "units in" changes all of these to inches. A name that is already there is
+    /// replaced. False when a line can't be read, its dimensions make no section, or stated
+    /// properties do not fit them; then `error` names the line and nothing is added.
     bool Load(std::istream& text, std::wstring& error);
     bool Load(const std::wstring& path, std::wstring& error);
 

@@ -1,7 +1,6 @@
 #include "model/Results.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 namespace Tevra {
@@ -19,23 +18,6 @@ bool SameBits(const double* a, const double* b, std::size_t count) {
 
 }  // namespace
 
-ResultTable::ResultTable(const ResultTable& o)
-    : m_components(o.m_components), m_rows(o.m_rows), m_used(o.m_used) {
-    m_blocks.reserve(o.m_blocks.size());
-    for (const auto& block : o.m_blocks) {
-        m_blocks.push_back(std::make_unique_for_overwrite<double[]>(kBlock));
-        const bool last = m_blocks.size() == o.m_blocks.size();
-        std::memcpy(m_blocks.back().get(), block.get(), (last ? m_used : kBlock) * sizeof(double));
-    }
-}
-
-ResultTable& ResultTable::operator=(const ResultTable& o) {
-    if (this != &o) {
-        *this = ResultTable(o);
-    }
-    return *this;
-}
-
 int ResultTable::NumRow(int entity) const {
     return static_cast<int>(m_rows.Get(entity).rows);
 }
@@ -45,17 +27,26 @@ const double* ResultTable::Row(int entity, int row) const {
     if (place == nullptr || row < 0 || row >= static_cast<int>(place->rows)) {
         return nullptr;
     }
-    return At(*place) + static_cast<std::size_t>(row) * static_cast<std::size_t>(m_components);
+    return m_blocks[place->first / kBlock].data() + place->first % kBlock +
+           static_cast<std::size_t>(row) * static_cast<std::size_t>(m_components);
 }
 
-std::uint64_t ResultTable::Claim(std::size_t count) {
-    if (m_used + count > kBlock) {
-        m_blocks.push_back(std::make_unique<double[]>(kBlock));
-        m_used = 0;
+std::span<double> ResultTable::At(const Place& place, std::size_t count) {
+    return std::span(m_blocks[place.first / kBlock]).subspan(place.first % kBlock, count);
+}
+
+ResultTable::Place ResultTable::Claim(std::size_t count) {
+    const auto left = [](const std::vector<double>& block) {
+        return std::min(block.capacity(), kBlock) - block.size();
+    };
+    if (m_blocks.empty() || left(m_blocks.back()) < count) {
+        const std::size_t doublings = std::min(m_blocks.size(), kDoublings);
+        m_blocks.emplace_back().reserve(std::max(kSmallestBlock << doublings, count));
     }
-    const std::uint64_t first = (m_blocks.size() - 1) * kBlock + m_used;
-    m_used += count;
-    return first;
+    std::vector<double>& block = m_blocks.back();
+    const Place place{(m_blocks.size() - 1) * kBlock + block.size(), 0};
+    block.resize(block.size() + count);
+    return place;
 }
 
 bool ResultTable::Set(int entity, std::span<const double> values) {
@@ -65,11 +56,9 @@ bool ResultTable::Set(int entity, std::span<const double> values) {
     }
     const auto rows = static_cast<std::uint32_t>(values.size() / components);
     const Place* former = m_rows.Find(entity);
-    const Place place = former != nullptr && former->rows >= rows
-                            ? Place{former->first, rows}
-                            : Place{Claim(values.size()), rows};
-    std::copy(values.begin(), values.end(),
-              m_blocks[place.first / kBlock].get() + place.first % kBlock);
+    Place place = former != nullptr && former->rows >= rows ? *former : Claim(values.size());
+    place.rows = rows;
+    std::copy(values.begin(), values.end(), At(place, values.size()).begin());
     return m_rows.Set(entity, place);
 }
 

@@ -68,11 +68,6 @@ constexpr const ResultKindInfo& InfoOf(ResultKind kind) {
 class ResultTable {
 public:
     explicit ResultTable(int components = 6) : m_components(components) {}
-    ResultTable(const ResultTable& o);
-    ResultTable(ResultTable&&) noexcept = default;
-    ~ResultTable() = default;
-    ResultTable& operator=(const ResultTable& o);
-    ResultTable& operator=(ResultTable&&) noexcept = default;
 
     int Components() const { return m_components; }
     /// Number of entities with rows.
@@ -91,20 +86,20 @@ public:
     bool operator==(const ResultTable& o) const;
 
 private:
-    static constexpr std::size_t kBlock = 8192;  ///< figures in a block
+    // Figures in a block: many tables are small, so the first block is, each next one twice that.
+    static constexpr std::size_t kSmallestBlock = 64;
+    static constexpr std::size_t kDoublings = 7;
+    static constexpr std::size_t kBlock = kSmallestBlock << kDoublings;
     struct Place {
         std::uint64_t first = 0;  ///< block times kBlock plus offset
         std::uint32_t rows = 0;
     };
-    const double* At(const Place& place) const {
-        return m_blocks[place.first / kBlock].get() + place.first % kBlock;
-    }
-    std::uint64_t Claim(std::size_t count);
+    Place Claim(std::size_t count);
+    std::span<double> At(const Place& place, std::size_t count);
 
     int m_components;
     NumberedTable<Place> m_rows;
-    std::vector<std::unique_ptr<double[]>> m_blocks;
-    std::size_t m_used = kBlock;  ///< figures used in the last block
+    std::vector<std::vector<double>> m_blocks;  ///< filled up to what was reserved, never moved
 };
 
 /// Figures of a case as a whole; NaN where the case has none.

@@ -23,16 +23,16 @@ std::wstring CProgTitles::ProgramVersion(bool major, bool minor, bool release) c
 }
 
 void CProgTitles::SetProgramVersion(const std::wstring& text) {
-    int* const parts[] = {&m_major, &m_minor, &m_release};
-    std::size_t at = 0;
-    for (int* part : parts) {
+    constexpr int kMost = 99'999'999;
+    std::wstring_view rest = text;
+    for (int* const part : {&m_major, &m_minor, &m_release}) {
+        const std::size_t point = std::min(rest.find(L'.'), rest.size());
+        const std::wstring_view digits = Text::TrimLeft(rest.substr(0, point));
         *part = 0;
-        for (; at < text.size() && text[at] != L'.'; ++at) {
-            if (Text::IsDigit(text[at]) && *part < 100'000'000) {
-                *part = *part * 10 + (text[at] - L'0');
-            }
+        for (std::size_t i = 0; i < digits.size() && Text::IsDigit(digits[i]); ++i) {
+            *part = std::min(*part * 10 + (digits[i] - L'0'), kMost);
         }
-        ++at;
+        rest.remove_prefix(std::min(point + 1, rest.size()));
     }
 }
 

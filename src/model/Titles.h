@@ -48,7 +48,7 @@ public:
     const std::wstring& Notice() const { return m_notice; }
 
     void SetProgramName(std::wstring name) { m_name = std::move(name); }
-    /// Three numeric parts; parts of the text that are no numbers count as 0.
+    /// Three parts separated by points, each the number that it begins with; 0 without one.
     void SetProgramVersion(const std::wstring& text);
     void SetProgramVersion(int major, int minor, int release) {
         m_major = major;

@@ -56,7 +56,8 @@ ActiveSet MakeActiveSet(const CVynData& model, const CEntList& list) {
 
 /// The sets of a selection, worked out once; null when everything is active.
 const ActiveSet* CVynData::Active(int selection) const {
-    if (selection == 0 || !ListExist(selection)) {
+    const SelType kind = List(selection).TypeOf();
+    if (kind != SelType::Node && kind != SelType::Element && kind != SelType::Member) {
         return nullptr;
     }
     auto& sets = Derived().active;
@@ -69,7 +70,7 @@ const ActiveSet* CVynData::Active(int selection) const {
 
 bool CVynData::NodeIsActive(int node, int selection, SelType /*kind*/) const {
     const ActiveSet* active = Active(selection);
-    return active != nullptr ? active->nodes.Test(node) : NodeExist(node);
+    return NodeExist(node) && (active == nullptr || active->nodes.Test(node));
 }
 
 bool CVynData::ElemIsActive(int element, int selection) const {

@@ -10,7 +10,9 @@
 
 namespace Tevra {
 
+class CaseCombiner;
 struct ActiveSet;
+struct CombinationSums;
 struct DerivedData;
 
 /// Tells whether the model may be changed: a model with results is locked by them.
@@ -63,8 +65,8 @@ public:
     int ElemStageMatAnal(int element, int stage) const;
 
     // --- what is active in a selection: a saved list by its number; 0 is the whole model, and so
-    // is a list that does not exist. A list of elements or members activates their nodes, a list
-    // of nodes the elements that lie in it altogether.
+    // is a list that does not exist, or one of other things. A list of elements or members
+    // activates their nodes, a list of nodes the elements that lie in it altogether.
     bool NodeIsActive(int node, int selection, SelType kind) const;
     bool NodeIsActive(int node, int selection, int kind) const {
         return NodeIsActive(node, selection, static_cast<SelType>(kind));
@@ -102,8 +104,8 @@ public:
     const Vec3<double>& TopoPosition(const Data::CElement& element, int k) const;
 
     // --- sections
-    /// Properties of a section: part 0 the whole, all components about their common centroid; part k
-    /// component k about its own. Sections are prismatic, so the position (0 to 1) makes no
+    /// Properties of a section: part 0 the whole, all components about their common centroid; part
+    /// k component k about its own. Sections are prismatic, so the position (0 to 1) makes no
     /// difference. With `modified` the section's modifiers apply. Zero where there is no such part.
     SectionProperties SectionProp(int section, int part, double position, bool modified) const;
 
@@ -179,7 +181,7 @@ public:
     Tens2<double> Force2D(int element, const SCaseRef& ref, int position) const;
     Tens2<double> Moment2D(int element, const SCaseRef& ref, int position) const;
     Vec2<double> Shear2D(int element, const SCaseRef& ref, int position) const;
-    /// Stress, Pa; layer 0 bottom, 1 middle, 2 top.
+    /// Stress, Pa; layer 0 bottom, 1 middle, 2 top, none other.
     TensSym3<double> Stress2D(int element, const SCaseRef& ref, int position, int layer) const;
     /// 3 for elements that bend, else 1.
     int Stress2DNumLayer(int element) const;
@@ -202,8 +204,11 @@ public:
     }
 
 private:
+    friend class CaseCombiner;
+
     DerivedData& Derived() const;
     const ActiveSet* Active(int selection) const;
+    const CombinationSums& SumsOf(int combination) const;
     const GlobalResults& OwnGlobal(const SCaseRef& ref) const;
     Vec3<double> GlobalVector(const SCaseRef& ref, Vec3<double> GlobalResults::*member) const;
     template <std::size_t N>
@@ -211,6 +216,9 @@ private:
                               const SCaseRef& ref) const;
     Vec3<double> RowVector(ResultKind kind, int entity, int row, std::size_t first,
                            const SCaseRef& ref) const;
+    Vec3<double> EndDisp(int element, int analysisCase, int end) const;
+    Vec3<double> OwnElemDisp(int element, int analysisCase, int position) const;
+    Vec3<double> OwnElemRotn(int element, int analysisCase, int position) const;
     Util::CDirCos LineDC(const Data::CElement& element) const;
     Util::CDirCos FaceDC(const Data::CElement& element) const;
 

@@ -14,8 +14,10 @@ namespace {
 constexpr Vec3<double> kX{1.0, 0.0, 0.0};
 constexpr Vec3<double> kY{0.0, 1.0, 0.0};
 constexpr Vec3<double> kZ{0.0, 0.0, 1.0};
-/// Sine of the angle to the vertical below which a line is vertical.
-constexpr double kVerticalSine = 0.001;
+/// Sine of the angle below which a line is vertical, or a direction stands square on a face.
+constexpr double kSmallSine = 0.001;
+/// Share of the coordinates that they lose when they are turned into an axis.
+constexpr double kRoundOff = 1e-12;
 constexpr double kPi = 3.14159265358979323846;
 constexpr Vec3<double> kOrigin{};
 
@@ -44,7 +46,7 @@ CDirCos Turned(const CDirCos& axes, double degrees) {
 }
 
 bool IsVertical(const Vec3<double>& line) {
-    return std::hypot(line.x, line.y) < kVerticalSine * Length(line);
+    return std::hypot(line.x, line.y) < kSmallSine * Length(line);
 }
 
 /// Axes along a line without an orientation node.
@@ -58,10 +60,12 @@ CDirCos DefaultLineAxes(const Vec3<double>& line) {
 }
 
 /// Axes of a cylinder (radial, tangential, along) or a sphere (radial, tangential, the third) at a
-/// place given by its coordinates in the axis.
-CDirCos CurvedAxes(const CDirCos& axis, AxisType type, const Vec3<double>& local) {
+/// point; the axis's own on its z line, where no direction is radial.
+CDirCos CurvedAxes(const CDirCos& axis, AxisType type, const Vec3<double>& origin,
+                   const Vec3<double>& point) {
+    const Vec3<double> local = axis.GtoL(point - origin);
     const double around = std::hypot(local.x, local.y);
-    if (around == 0.0) {
+    if (!(around > kRoundOff * (Length(origin) + Length(point)))) {
         return axis;
     }
     const Vec3<double> out{local.x / around, local.y / around, 0.0};
@@ -80,7 +84,7 @@ CDirCos CVynData::AxisDC(int axis, const Vec3<double>& point) const {
     const CDirCos cosines(record.XAxis(), record.YAxis(), record.ZAxis());
     return record.TypeOf() == AxisType::Cartesian
                ? cosines
-               : CurvedAxes(cosines, record.TypeOf(), cosines.GtoL(point - record.Origin()));
+               : CurvedAxes(cosines, record.TypeOf(), record.Origin(), point);
 }
 
 CDirCos CVynData::NodeDC(int node) const {
@@ -92,8 +96,32 @@ const Vec3<double>& CVynData::TopoPosition(const Data::CElement& element, int k)
     return node != nullptr ? node->Position() : kOrigin;
 }
 
+namespace {
+
+/// True when the first `count` topology nodes exist.
+bool HasNodes(const CVynData& model, const Data::CElement& element, int count) {
+    for (int k = 1; k <= count; ++k) {
+        if (!model.NodeExist(element.Topo(k))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool IsLine(const CVynData& model, const Data::CElement& element) {
+    return element.Is1D() && HasNodes(model, element, 2);
+}
+
+/// From end 1 of a 1D element to end 2; no length when it does not have both.
+Vec3<double> LineOf(const CVynData& model, const Data::CElement& element) {
+    return IsLine(model, element) ? model.TopoPosition(element, 2) - model.TopoPosition(element, 1)
+                                  : Vec3<double>{};
+}
+
+}  // namespace
+
 CDirCos CVynData::LineDC(const Data::CElement& element) const {
-    const Vec3<double> line = TopoPosition(element, 2) - TopoPosition(element, 1);
+    const Vec3<double> line = LineOf(*this, element);
     if (!(Length(line) > 0.0)) {
         return {};
     }
@@ -119,12 +147,16 @@ Vec3<double> CentreOf(const CVynData& model, const Data::CElement& element) {
     return sum * (1.0 / std::max(element.NumTopo(), 1));
 }
 
-/// Twice the area of a face by its corners, along its normal.
+/// Twice the area of a 2D element by its corners, along its normal; none when a corner is missing.
 Vec3<double> DoubleArea(const CVynData& model, const Data::CElement& element) {
+    const int corners = CornerCount(element.Type());
+    if (corners == 0 || !HasNodes(model, element, corners)) {
+        return {};
+    }
     const Vec3<double>& first = model.TopoPosition(element, 1);
     const Vec3<double>& second = model.TopoPosition(element, 2);
     const Vec3<double>& third = model.TopoPosition(element, 3);
-    if (CornerCount(element.Type()) == 4) {
+    if (corners == 4) {
         return Cross(third - first, model.TopoPosition(element, 4) - second);
     }
     return Cross(second - first, third - first);
@@ -142,7 +174,7 @@ CDirCos CVynData::FaceDC(const Data::CElement& element) const {
     // The axis's x, or the next of its directions when that stands on the face.
     for (int k = 0; k < 3; ++k) {
         const Vec3<double> along = SquareTo(axis.AxisVec(k), z);
-        if (Length(along) > kVerticalSine) {
+        if (Length(along) > kSmallSine) {
             const Vec3<double> x = Unit(along, kX);
             return {x, Cross(z, x), z};
         }
@@ -168,16 +200,15 @@ CDirCos CVynData::ElemDC(int element) const {
 
 double CVynData::ElemLen(int element) const {
     const Data::CElement& record = Elem(element);
-    if (!record.Is1D() || record.NumTopo() < 2) {
+    if (!IsLine(*this, record)) {
         return 0.0;
     }
-    const double nodes = Length(TopoPosition(record, 2) - TopoPosition(record, 1));
+    const double nodes = Length(LineOf(*this, record));
     return std::max(nodes - record.Offset().X1() + record.Offset().X2(), 0.0);
 }
 
 double CVynData::ElemArea(int element) const {
-    const Data::CElement& record = Elem(element);
-    return record.Is2D() ? 0.5 * Length(DoubleArea(*this, record)) : 0.0;
+    return 0.5 * Length(DoubleArea(*this, Elem(element)));
 }
 
 double CVynData::ElementThickness(int element) const {
@@ -186,9 +217,7 @@ double CVynData::ElementThickness(int element) const {
 }
 
 bool CVynData::ElemIsVertical(int element) const {
-    const Data::CElement& record = Elem(element);
-    return record.Is1D() && record.NumTopo() >= 2 &&
-           IsVertical(TopoPosition(record, 2) - TopoPosition(record, 1));
+    return IsVertical(LineOf(*this, Elem(element)));
 }
 
 bool CVynData::IsTotalOffset(int element) const {

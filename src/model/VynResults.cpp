@@ -11,6 +11,7 @@ namespace Tevra {
 namespace {
 
 constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+constexpr Vec3<double> kNoVector{kNone, kNone, kNone};
 
 /// Which tables hold what a host data code names. Displacements of elements follow from those of
 /// nodes.
@@ -82,19 +83,28 @@ bool CVynData::Elem2DFEInModel() const {
     });
 }
 
+namespace {
+
+/// The vector of any case, from `own` that gives the one of an analysis case.
+template <class Own>
+Vec3<double> VectorOf(const CVynData& model, const SCaseRef& ref, Own own) {
+    std::array<double, 3> out{};
+    ForCase(model, ref, out, [&own](int number, std::span<double> figures) {
+        const Vec3<double> v = own(number);
+        figures[0] = v.x;
+        figures[1] = v.y;
+        figures[2] = v.z;
+    });
+    return {out[0], out[1], out[2]};
+}
+
+}  // namespace
+
 // --- figures of a case as a whole
 
 Vec3<double> CVynData::GlobalVector(const SCaseRef& ref,
                                     Vec3<double> GlobalResults::*member) const {
-    std::array<double, 3> out{};
-    ForCase(*this, ref, out, [this, member](int number, std::span<double> figures) {
-        const CaseResults* results = m_results.Find(number);
-        const Vec3<double> v = (results != nullptr ? results->Global() : GlobalResults()).*member;
-        for (int i = 0; i < 3; ++i) {
-            figures[static_cast<std::size_t>(i)] = v[i];
-        }
-    });
-    return {out[0], out[1], out[2]};
+    return VectorOf(*this, ref, [&](int number) { return OwnGlobal(AnalysisRef(number)).*member; });
 }
 
 Vec3<double> CVynData::TotalForce(const SCaseRef& ref) const {
@@ -200,6 +210,10 @@ constexpr std::size_t kBending = 3;
 constexpr std::size_t kShear = 6;
 constexpr std::size_t kStress = 6;  ///< figures of one layer
 
+constexpr bool IsEnd(int position) {
+    return position == 0 || position == 1;
+}
+
 }  // namespace
 
 Vec3<double> CVynData::Disp(int node, const SCaseRef& ref) const {
@@ -233,32 +247,46 @@ Vec3<double> CVynData::ConsMoment(int node, const SCaseRef& ref) const {
     return RowVector(ResultKind::NodeConstraint, node, 0, kRotation, ref);
 }
 
-Vec3<double> CVynData::ElemDisp(int element, const SCaseRef& ref, int position) const {
+Vec3<double> CVynData::EndDisp(int element, int analysisCase, int end) const {
+    const int node = Elem(element).Topo(end);
+    const Vec3<double> disp = Disp(node, AnalysisRef(analysisCase));
+    const Vec3<double> arm = TotalLocalOffset(element, end);
+    // Without an offset the rotation does not count, nor whether the node has one.
+    return arm == Vec3<double>{}
+               ? disp
+               : disp + Cross(Rotn(node, AnalysisRef(analysisCase)), ElemDC(element).LtoG(arm));
+}
+
+Vec3<double> CVynData::OwnElemDisp(int element, int analysisCase, int position) const {
     const Data::CElement& record = Elem(element);
+    const SCaseRef ref = AnalysisRef(analysisCase);
     if (record.Is1D()) {
         const Vec3<double> own =
             RowVector(ResultKind::Elem1DDisp, element, position, kTranslation, ref);
-        if (!std::isnan(own.x)) {
-            return own;
-        }
-        const int node = record.Topo(position + 1);
-        const Vec3<double> arm = TotalGlobalOffset(element, position + 1);
-        return Disp(node, ref) + Cross(Rotn(node, ref), arm);
+        return std::isnan(own.x) && IsEnd(position) ? EndDisp(element, analysisCase, position + 1)
+                                                    : own;
     }
-    if (position > 0) {
+    if (position != 0) {
         return Disp(record.Topo(position), ref);
     }
     Vec3<double> sum;
     for (int k = 1; k <= record.NumTopo(); ++k) {
         sum = sum + Disp(record.Topo(k), ref);
     }
-    return record.NumTopo() > 0 ? sum * (1.0 / record.NumTopo())
-                                : Vec3<double>{kNone, kNone, kNone};
+    return record.NumTopo() > 0 ? sum * (1.0 / record.NumTopo()) : kNoVector;
 }
 
-Vec3<double> CVynData::ElemRotn(int element, const SCaseRef& ref, int position) const {
+Vec3<double> CVynData::OwnElemRotn(int element, int analysisCase, int position) const {
+    const SCaseRef ref = AnalysisRef(analysisCase);
     const Vec3<double> own = RowVector(ResultKind::Elem1DDisp, element, position, kRotation, ref);
-    return std::isnan(own.x) ? Rotn(Elem(element).Topo(position + 1), ref) : own;
+    return std::isnan(own.x) && IsEnd(position) ? Rotn(Elem(element).Topo(position + 1), ref) : own;
+}
+
+Vec3<double> CVynData::ElemDisp(int element, const SCaseRef& ref, int position) const {
+    return VectorOf(*this, ref, [&](int number) { return OwnElemDisp(element, number, position); });
+}
+Vec3<double> CVynData::ElemRotn(int element, const SCaseRef& ref, int position) const {
+    return VectorOf(*this, ref, [&](int number) { return OwnElemRotn(element, number, position); });
 }
 
 Vec3<double> CVynData::Force(int element, const SCaseRef& ref, int position) const {
@@ -295,7 +323,10 @@ Vec2<double> CVynData::Shear2D(int element, const SCaseRef& ref, int position) c
 
 TensSym3<double> CVynData::Stress2D(int element, const SCaseRef& ref, int position,
                                     int layer) const {
-    const auto first = static_cast<std::size_t>(std::clamp(layer, 0, 2)) * kStress;
+    if (layer < 0 || layer > 2) {
+        return {kNone, kNone, kNone, kNone, kNone, kNone};
+    }
+    const auto first = static_cast<std::size_t>(layer) * kStress;
     const auto v = Row<6>(ResultKind::Elem2DStress, element, position, first, ref);
     return {v[0], v[1], v[2], v[3], v[4], v[5]};
 }

@@ -83,7 +83,7 @@ TEST_P(Example, ReactionsOfStaticCasesBalanceTheLoads) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Example, ::testing::ValuesIn(Examples()),
-                         [](const auto& info) { return info.param; });
+                         [](const auto& example) { return example.param; });
 
 TEST(Examples, FootbridgeHasTwelveModesOfRisingFrequency) {
     CVynData model;

@@ -1,6 +1,5 @@
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <gtest/gtest.h>
 #include <map>
 #include <string>
 #include <vector>
@@ -39,9 +38,8 @@ TEST(CaseDesc, FactorsOfTheFirstPart) {
 }
 
 TEST(CaseDesc, TextsThatCanNotBeRead) {
-    for (const wchar_t* text :
-         {L"1.35", L"L", L"L0", L"L1 +", L"A1", L"L1 L2", L"P(L1", L"M", L"L1 :", L"1e999L1",
-          L"L99999999999", L"\x00e9", L"nanL1"}) {
+    for (const wchar_t* text : {L"1.35", L"L", L"L0", L"L1 +", L"A1", L"L1 L2", L"P(L1", L"M",
+                                L"L1 :", L"1e999L1", L"L99999999999", L"\x00e9", L"nanL1"}) {
         CCaseDesc desc;
         EXPECT_FALSE(desc.SetDescription(text));
         EXPECT_EQ(desc.Description(), text);
@@ -113,10 +111,10 @@ INSTANTIATE_TEST_SUITE_P(
         CombCase{L"+1.000000A1-0.500000A3", true, {"A1 1.00, A3 -0.50"}},
         CombCase{L"2(A1 or 3(A2 or A3))", false, {"A1 2.00", "A2 6.00", "A3 6.00"}},
         CombCase{L"-C2 signabs", false, {"C2/-4 -1.00"}},
-        CombCase{L"1.35a1OR1.5a2", false, {"A1 1.35", "A2 1.50"}},
-        CombCase{L"A77", false, {}}, CombCase{L"C77", false, {}}, CombCase{L"C4p3", false, {}},
-        CombCase{L"A1 +", false, {}}, CombCase{L"(A1", false, {}}, CombCase{L"A1min", false, {}},
-        CombCase{L"", false, {}}, CombCase{L"A1 to C3", false, {}}));
+        CombCase{L"1.35a1OR1.5a2", false, {"A1 1.35", "A2 1.50"}}, CombCase{L"A77", false, {}},
+        CombCase{L"C77", false, {}}, CombCase{L"C4p3", false, {}}, CombCase{L"A1 +", false, {}},
+        CombCase{L"(A1", false, {}}, CombCase{L"A1min", false, {}}, CombCase{L"", false, {}},
+        CombCase{L"A1 to C3", false, {}}));
 
 TEST(CombCaseDesc, FactorsOfAnalysisCases) {
     const CVynData model = Model({{2, L"A3 or A4"}, {6, L"2C2max + A5"}});
@@ -135,8 +133,7 @@ TEST(CombCaseDesc, FactorsOfAnalysisCases) {
 }
 
 TEST(CombCaseDesc, CyclesAndTooManyPermutationsAreInvalid) {
-    const CVynData model =
-        Model({{1, L"C2 + A1"}, {2, L"C3"}, {3, L"A2 or C1"}, {4, L"A1 to A9"}});
+    const CVynData model = Model({{1, L"C2 + A1"}, {2, L"C3"}, {3, L"A2 or C1"}, {4, L"A1 to A9"}});
     EXPECT_FALSE(CCombCaseDesc(L"C1").IsValid(model));
     EXPECT_FALSE(CCombCaseDesc(L"C1max").IsValid(model));
     EXPECT_TRUE(CCombCaseDesc(L"C4 + C4 + C4 + C4 + C4 + C4").IsValid(model));

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 
@@ -21,10 +20,10 @@ CVynData Model() {
         int group;
         int member;
     };
-    const Element elements[] = {
-        {ElementType::Beam, 1, 1, 0},  {ElementType::Beam, 2, 1, 7},  {ElementType::Bar, 1, 2, 7},
-        {ElementType::Quad4, 1, 2, 0}, {ElementType::Tri3, 2, 3, 0},  {ElementType::Brick8, 1, 3, 0},
-        {ElementType::Spring, 1, 4, 0}, {ElementType::Beam, 3, 5, 0}};
+    const Element elements[] = {{ElementType::Beam, 1, 1, 0},   {ElementType::Beam, 2, 1, 7},
+                                {ElementType::Bar, 1, 2, 7},    {ElementType::Quad4, 1, 2, 0},
+                                {ElementType::Tri3, 2, 3, 0},   {ElementType::Brick8, 1, 3, 0},
+                                {ElementType::Spring, 1, 4, 0}, {ElementType::Beam, 3, 5, 0}};
     int number = 0;
     for (const Element& e : elements) {
         Data::CElement element(e.type, {1, 2}, e.property);
@@ -84,11 +83,9 @@ INSTANTIATE_TEST_SUITE_P(
         ListCase{SelType::Element, L"member 7", L"2 3"},
         ListCase{SelType::Element, L"type quad4 TYPE Beam", L"1 2 4 8"},
         ListCase{SelType::Element, L"list 1 7", L"1 2 3 7"},
-        ListCase{SelType::Element, L"list 2", L"7 8"},
-        ListCase{SelType::Member, L"all", L"7"},
+        ListCase{SelType::Element, L"list 2", L"7 8"}, ListCase{SelType::Member, L"all", L"7"},
         ListCase{SelType::LoadCase, L"all", L"4"}, ListCase{SelType::LoadCase, L"L1 to L9", L"4"},
-        ListCase{SelType::LoadCase, L"4", L"4"},
-        ListCase{SelType::Case, L"A1 to A3", L"1 2 3"},
+        ListCase{SelType::LoadCase, L"4", L"4"}, ListCase{SelType::Case, L"A1 to A3", L"1 2 3"},
         ListCase{SelType::Case, L"A1 A5 C2", L"1 5"}, ListCase{SelType::Case, L"all", L"1 2 3 5"},
         ListCase{SelType::Case, L"A all not A2", L"1 3 5"},
         ListCase{SelType::Number, L"1 to 3 7", L"1 2 3 7"}));
@@ -96,13 +93,26 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(EntList, TextsThatCanNotBeReadSelectNothing) {
     const CVynData model = Model();
     const std::vector<std::pair<SelType, std::wstring>> texts{
-        {SelType::Node, L"1 to"},        {SelType::Node, L"to 5"},     {SelType::Node, L"(1 2"},
-        {SelType::Node, L"1 2)"},        {SelType::Node, L"1;2"},      {SelType::Node, L"G 1"},
-        {SelType::Node, L"0"},           {SelType::Node, L"-1"},       {SelType::Node, L"1.5"},
-        {SelType::Node, L"99999999999"}, {SelType::Node, L"none 1"},   {SelType::Node, L"not"},
-        {SelType::Node, L"1 to 9 step 0"}, {SelType::Element, L"type"}, {SelType::Element, L"type x"},
-        {SelType::Case, L"1"},           {SelType::Case, L"A1 to C3"}, {SelType::Number, L"20000000"},
-        {SelType::Node, L"\x4e00"},      {SelType::Node, std::wstring(100, L'(')}};
+        {SelType::Node, L"1 to"},
+        {SelType::Node, L"to 5"},
+        {SelType::Node, L"(1 2"},
+        {SelType::Node, L"1 2)"},
+        {SelType::Node, L"1;2"},
+        {SelType::Node, L"G 1"},
+        {SelType::Node, L"0"},
+        {SelType::Node, L"-1"},
+        {SelType::Node, L"1.5"},
+        {SelType::Node, L"99999999999"},
+        {SelType::Node, L"none 1"},
+        {SelType::Node, L"not"},
+        {SelType::Node, L"1 to 9 step 0"},
+        {SelType::Element, L"type"},
+        {SelType::Element, L"type x"},
+        {SelType::Case, L"1"},
+        {SelType::Case, L"A1 to C3"},
+        {SelType::Number, L"20000000"},
+        {SelType::Node, L"\x4e00"},
+        {SelType::Node, std::wstring(100, L'(')}};
     for (const auto& [kind, text] : texts) {
         const CEntList list(text, kind);
         EXPECT_FALSE(list.IsValid()) << testing::PrintToString(text);

@@ -1,6 +1,5 @@
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <gtest/gtest.h>
 #include <vector>
 
 #include "model/VynData.h"
@@ -50,16 +49,15 @@ TEST(LineAxes, FollowTheRules) {
         V y;
         V z;
     };
-    const Case cases[] = {
-        {"along X", {4, 0, 0}, 0, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
-        {"along -X", {-4, 0, 0}, 0, {-1, 0, 0}, {0, -1, 0}, {0, 0, 1}},
-        {"along Y", {0, 2, 0}, 0, {0, 1, 0}, {-1, 0, 0}, {0, 0, 1}},
-        {"up at 45 degrees", {3, 0, 3}, 0, {h, 0, h}, {0, 1, 0}, {-h, 0, h}},
-        {"turned", {4, 0, 0}, 90, {1, 0, 0}, {0, 0, 1}, {0, -1, 0}},
-        {"turned by 45", {4, 0, 0}, 45, {1, 0, 0}, {0, h, h}, {0, -h, h}},
-        {"vertical up", {0, 0, 5}, 0, {0, 0, 1}, {0, 1, 0}, {-1, 0, 0}},
-        {"vertical down", {0, 0, -5}, 0, {0, 0, -1}, {0, 1, 0}, {1, 0, 0}},
-        {"vertical turned", {0, 0, 5}, 90, {0, 0, 1}, {-1, 0, 0}, {0, -1, 0}}};
+    const Case cases[] = {{"along X", {4, 0, 0}, 0, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
+                          {"along -X", {-4, 0, 0}, 0, {-1, 0, 0}, {0, -1, 0}, {0, 0, 1}},
+                          {"along Y", {0, 2, 0}, 0, {0, 1, 0}, {-1, 0, 0}, {0, 0, 1}},
+                          {"up at 45 degrees", {3, 0, 3}, 0, {h, 0, h}, {0, 1, 0}, {-h, 0, h}},
+                          {"turned", {4, 0, 0}, 90, {1, 0, 0}, {0, 0, 1}, {0, -1, 0}},
+                          {"turned by 45", {4, 0, 0}, 45, {1, 0, 0}, {0, h, h}, {0, -h, h}},
+                          {"vertical up", {0, 0, 5}, 0, {0, 0, 1}, {0, 1, 0}, {-1, 0, 0}},
+                          {"vertical down", {0, 0, -5}, 0, {0, 0, -1}, {0, 1, 0}, {1, 0, 0}},
+                          {"vertical turned", {0, 0, 5}, 90, {0, 0, 1}, {-1, 0, 0}, {0, -1, 0}}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         CVynData model = ModelOf(ElementType::Beam, {{0, 0, 0}, c.end});
@@ -106,8 +104,7 @@ TEST(Offsets, LengthAndEndsInBothAxes) {
 }
 
 TEST(FaceAxes, FollowThePropertyAxis) {
-    CVynData model =
-        ModelOf(ElementType::Quad4, {{0, 0, 0}, {2, 0, 0}, {2, 1, 0}, {0, 1, 0}});
+    CVynData model = ModelOf(ElementType::Quad4, {{0, 0, 0}, {2, 0, 0}, {2, 1, 0}, {0, 1, 0}});
     ExpectAxes(model.ElemDC(1), {1, 0, 0}, {0, 1, 0}, {0, 0, 1});
     EXPECT_DOUBLE_EQ(model.ElemArea(1), 2.0);
     // A wall square to X: X has no projection, so Y gives the element's x.
@@ -174,8 +171,9 @@ TEST(Geometry, ElementsWithoutExtentAreGlobalAndHaveNoLength) {
 }
 
 TEST(FaceLoads, ValuesAtCorners) {
-    CVynData model = ModelOf(ElementType::Brick8, {{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0},
-                                                   {0, 0, 2}, {1, 0, 2}, {1, 1, 2}, {0, 1, 2}});
+    CVynData model = ModelOf(
+        ElementType::Brick8,
+        {{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}, {0, 0, 2}, {1, 0, 2}, {1, 1, 2}, {0, 1, 2}});
     Data::CFaceLoad load;
     load.SetType(FaceLoadType::Equation);
     load.SetEquation({10, 1, 100, 1000});

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-
 #include <thread>
 
 #include "model/Names.h"
@@ -250,12 +249,18 @@ TEST(Units, InOneSiUnit) {
         const wchar_t* text;
         double perSi;
     };
-    const Case cases[] = {{1, L"kN", 1e-3},       {1, L"kip", 1.0 / 4448.2216152605},
-                          {2, L"mm", 1000.0},     {2, L"ft", 1.0 / 0.3048},
-                          {3, L"t", 1e-3},        {5, L"°F", 1.8},
-                          {7, L"kN/m²", 1e-3},    {7, L"N/mm²", 1e-6},
-                          {7, L"psi", 1.0 / 6894.757293168361}, {8, L"g", 1.0 / 9.80665},
-                          {6, L"cm", 100.0},      {1, L"nonsense", 1.0}};
+    const Case cases[] = {{1, L"kN", 1e-3},
+                          {1, L"kip", 1.0 / 4448.2216152605},
+                          {2, L"mm", 1000.0},
+                          {2, L"ft", 1.0 / 0.3048},
+                          {3, L"t", 1e-3},
+                          {5, L"°F", 1.8},
+                          {7, L"kN/m²", 1e-3},
+                          {7, L"N/mm²", 1e-6},
+                          {7, L"psi", 1.0 / 6894.757293168361},
+                          {8, L"g", 1.0 / 9.80665},
+                          {6, L"cm", 100.0},
+                          {1, L"nonsense", 1.0}};
     for (const Case& c : cases) {
         CUnit units;
         EXPECT_TRUE(units.SetUnitString(c.kind, c.text));

@@ -1,6 +1,5 @@
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <gtest/gtest.h>
 #include <limits>
 #include <vector>
 
@@ -111,7 +110,10 @@ TEST(Results, OfOneDimensionalElements) {
     ExpectVector(model.Force(7, ref, 0), {1, 2, 3});
     ExpectVector(model.Moment(7, ref, 1), {10, 11, 12});
     ExpectVector(model.Force(7, ref, 2), {kNone, kNone, kNone});
-    model.EditResults().Edit(1).Edit(ResultKind::NodeSpringForce).Set(1, std::vector<double>(6, 4.0));
+    model.EditResults()
+        .Edit(1)
+        .Edit(ResultKind::NodeSpringForce)
+        .Set(1, std::vector<double>(6, 4.0));
     ExpectVector(model.ForceSpring({SelType::Node, 1}, ref, 0), {4, 4, 4});
     ExpectVector(model.ForceSpring({SelType::Element, 1}, ref, 0), {kNone, kNone, kNone});
 }

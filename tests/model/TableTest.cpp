@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-
 #include <limits>
 #include <vector>
 
@@ -19,7 +18,16 @@ std::vector<int> NumbersOf(const NumberedTable<int>& table) {
 
 TEST(NumberedTable, KeepsGapsAndWalksThemInOrder) {
     NumberedTable<int> table;
-    const std::vector<int> numbers{1, 2, 63, 64, 65, 128, 65536, 65537, 9'999'999, 10'000'001,
+    const std::vector<int> numbers{1,
+                                   2,
+                                   63,
+                                   64,
+                                   65,
+                                   128,
+                                   65536,
+                                   65537,
+                                   9'999'999,
+                                   10'000'001,
                                    std::numeric_limits<int>::max()};
     for (auto number = numbers.rbegin(); number != numbers.rend(); ++number) {
         EXPECT_TRUE(table.Set(*number, *number % 1000));

@@ -1,0 +1,239 @@
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "document/ModelDocument.h"
+#include "support/FullModel.h"
+#include "support/TempFolder.h"
+#include "support/TestPaths.h"
+#include "vynx/CommandLine.h"
+#include "vynx/Failure.h"
+#include "vynx/Format.h"
+
+namespace Vynx {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Runs vynx in this process and keeps what it prints.
+class VynxTest : public ::testing::Test {
+protected:
+    int Run(std::vector<std::string> words) {
+        words.insert(words.begin(), "vynx");
+        std::vector<const char*> arguments;
+        for (const std::string& word : words) {
+            arguments.push_back(word.c_str());
+        }
+        std::ostringstream out;
+        std::ostringstream err;
+        std::streambuf* const formerOut = std::cout.rdbuf(out.rdbuf());
+        std::streambuf* const formerErr = std::cerr.rdbuf(err.rdbuf());
+        const int status = Vynx::Run(static_cast<int>(arguments.size()), arguments.data());
+        std::cout.rdbuf(formerOut);
+        std::cerr.rdbuf(formerErr);
+        m_out = out.str();
+        m_err = err.str();
+        return status;
+    }
+    std::string Path(const std::string& name) const { return (m_folder.Path() / name).string(); }
+    std::string Write(const std::string& name, const std::string& text) const {
+        std::ofstream(Path(name), std::ios::binary) << text;
+        return Path(name);
+    }
+    static std::string Footbridge() {
+        return (Tevra::TestSupport::SourceDir() / "examples/footbridge.json").string();
+    }
+    /// Names in the folder of the test, hidden ones too.
+    std::vector<std::string> Files() const {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(m_folder.Path())) {
+            names.push_back(entry.path().filename().string());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    Tevra::TestSupport::TempFolder m_folder;
+    std::string m_out;
+    std::string m_err;
+};
+
+using Names = std::vector<std::string>;
+
+TEST_F(VynxTest, WritesADampingFileWithItsOptions) {
+    ASSERT_EQ(Run({"export", Footbridge(), "--to", "damping", "-o", Path("d.txt"), "--nodes", "1 2",
+                   "--modes", "1 to 3", "--damping", "0.01"}),
+              kDone)
+        << m_err;
+    const std::string text = Tevra::TestSupport::ReadFile(Path("d.txt"));
+    EXPECT_NE(text.find("\n       2       3\n"), std::string::npos);
+    EXPECT_NE(text.find("       0.0100000\n"), std::string::npos);
+    EXPECT_EQ(m_err, "");
+    EXPECT_EQ(Files(), Names{"d.txt"});
+}
+
+TEST_F(VynxTest, StandardOutputTakesASingleFile) {
+    ASSERT_EQ(Run({"export", Footbridge(), "--to", "damping", "-o", "-"}), kDone) << m_err;
+    ASSERT_EQ(m_out.substr(0, 30), "$\n$ *DAMPING_MODAL data file\n$");
+    const std::string piped = m_out;
+    ASSERT_EQ(Run({"export", Footbridge(), "--to", "damping", "-o", Path("d.txt")}), kDone);
+    EXPECT_EQ(piped, Tevra::TestSupport::ReadFile(Path("d.txt")));
+}
+
+TEST_F(VynxTest, ImportWritesTheSameModel) {
+    const Tevra::CVynData model = Tevra::TestSupport::MakeFullModel();
+    std::ofstream file(Path("full.json"), std::ios::binary);
+    std::string error;
+    ASSERT_TRUE(Tevra::Document::WriteDocument(model, file, error)) << error;
+    file.close();
+    ASSERT_EQ(Run({"import", Path("full.json"), "-o", Path("again.json")}), kDone) << m_err;
+    Tevra::CVynData again;
+    ASSERT_TRUE(Tevra::Document::ReadDocument(fs::path(Path("again.json")), again, error)) << error;
+    EXPECT_TRUE(again == model);
+}
+
+TEST_F(VynxTest, WhatCanNotBeDoneEndsWithAMessageAndLeavesNoFile) {
+    Write("empty.json", "");
+    Write("half.json", R"({"version": 1, "nodes": [)");
+    Write("binary.json", std::string("\x7f"
+                                     "ELF\0\1\2",
+                                     7));
+    Write("static.json", R"({"version": 1, "nodes": [{"number": 1, "position": [0, 0, 0]}]})");
+    Write("model.xyz", "{}");
+    fs::create_directory(Path("folder.json"));
+    struct Case {
+        Names words;
+        int status;
+        const char* message;
+    };
+    const std::string out = Path("out.txt");
+    const std::string bridge = Footbridge();
+    const Case cases[] = {
+        {{"export", Path("none.json"), "--to", "damping", "-o", out},
+         kFailed,
+         "No such file or directory"},
+        {{"export", Path("folder.json"), "--to", "damping", "-o", out}, kFailed, "is a folder"},
+        {{"info", Path("empty.json")}, kFailed, "is empty"},
+        {{"info", Path("half.json")}, kFailed, "parse error at line 1"},
+        {{"info", Path("binary.json")}, kFailed, "parse error at line 1"},
+        {{"info", Path("model.xyz")}, kUsage, "the extension names no format"},
+        {{"info", Path("model.xyz"), "--from", "document"}, kFailed, "\"version\" is missing"},
+        {{"info", bridge, "--from", "damping"}, kUsage, "not a format that can be read"},
+        {{"export", bridge, "--to", "nothing", "-o", out}, kUsage, "not a format"},
+        {{"export", bridge, "--to", "document", "-o", out, "--damping", "1"},
+         kUsage,
+         "--damping: document has no such option"},
+        {{"export", bridge, "--to", "damping", "-o", out, "--bogus"}, kUsage, "--bogus"},
+        {{"export", bridge, "--to", "damping", "-o", out, "--damping", "x"},
+         kUsage,
+         "--damping: expected a number, not \"x\""},
+        {{"export", bridge, "--to", "damping", "-o", out, "--nodes", "1 to"},
+         kUsage,
+         "--nodes: expected a list"},
+        {{"export", bridge, "--to", "damping", "-o", out, "--nodes", "9999"},
+         kFailed,
+         "no node of the model is in the list --nodes"},
+        {{"export", Path("static.json"), "--to", "damping", "-o", out},
+         kFailed,
+         "the model has no analysed modal task"},
+        {{"export", bridge, "--to", "damping", "-o", Path("no/such/out.txt")},
+         kFailed,
+         "No such file or directory"},
+        {{"export", bridge, "--to", "damping", "-o", Path("folder.json")},
+         kFailed,
+         "it is a folder"},
+        {{"export", bridge, "--to", "damping", "-o", "/dev/full"}, kFailed, "Errors writing file"},
+        {{"export", bridge, "--to", "all", "-o", Path("all"), "--damping", "1"},
+         kUsage,
+         "--to all writes every format with its defaults"},
+        {{"export", bridge, "--to", "damping"}, kUsage, "--output is required"},
+        {{}, kUsage, "subcommand"},
+        {{"frobnicate"}, kUsage, "frobnicate"}};
+    const Names before = Files();
+    for (const Case& c : cases) {
+        SCOPED_TRACE(::testing::PrintToString(c.words));
+        EXPECT_EQ(Run(c.words), c.status);
+        EXPECT_NE(m_err.find(c.message), std::string::npos) << m_err;
+        EXPECT_EQ(Files(), before);
+    }
+}
+
+TEST_F(VynxTest, AFailureLeavesTheFormerFileAlone) {
+    Write("static.json", R"({"version": 1})");
+    Write("out.txt", "precious");
+    EXPECT_EQ(Run({"export", Path("static.json"), "--to", "damping", "-o", Path("out.txt")}),
+              kFailed);
+    EXPECT_EQ(Tevra::TestSupport::ReadFile(Path("out.txt")), "precious");
+}
+
+TEST_F(VynxTest, ALinkStaysALink) {
+    Write("target.txt", "old");
+    fs::create_symlink(Path("target.txt"), Path("link.txt"));
+    ASSERT_EQ(Run({"export", Footbridge(), "--to", "damping", "-o", Path("link.txt")}), kDone);
+    EXPECT_TRUE(fs::is_symlink(Path("link.txt")));
+    EXPECT_EQ(Tevra::TestSupport::ReadFile(Path("target.txt")).substr(0, 2), "$\n");
+}
+
+TEST_F(VynxTest, AllWritesWhatTheModelCanFeed) {
+    ASSERT_EQ(Run({"export", Footbridge(), "--to", "all", "-o", Path("all")}), kDone) << m_err;
+    for (const Format& format : Formats()) {
+        if (format.write != nullptr) {
+            EXPECT_TRUE(fs::file_size(Path("all/footbridge" + std::string(format.extensions[0]))) >
+                        0)
+                << format.id;
+        }
+    }
+    const std::string portal = (Tevra::TestSupport::SourceDir() / "examples/portal.json").string();
+    ASSERT_EQ(Run({"export", portal, "--to", "all", "-o", Path("all")}), kDone) << m_err;
+    EXPECT_NE(m_out.find("damping: skipped, the model has no analysed modal task"),
+              std::string::npos);
+}
+
+TEST_F(VynxTest, NumbersWithoutARecordAreNamed) {
+    Write("m.json", R"({"version": 1, "elements": [{"number": 5, "type": "bar", "nodes": [1, 2],
+                       "property": 3}], "combination_cases": [{"number": 1, "description": "A9"}]})");
+    EXPECT_EQ(Run({"info", Path("m.json")}), kDone);
+    for (const char* finding :
+         {"element 5: node 1 does not exist", "element 5: node 2 does not exist",
+          "element 5: section 3 does not exist", "combination case 1: \"A9\" can't be resolved"}) {
+        EXPECT_NE(m_err.find(finding), std::string::npos) << finding;
+    }
+}
+
+TEST_F(VynxTest, FormatsAndHelpNameEveryOption) {
+    ASSERT_EQ(Run({"formats"}), kDone);
+    const std::string formats = m_out;
+    EXPECT_NE(formats.find("&NASTRAN (Bulk data file)   .dat   33104"), std::string::npos);
+    ASSERT_EQ(Run({"export", "--help"}), kDone);
+    for (const Format& format : Formats()) {
+        EXPECT_NE(formats.find(format.id), std::string::npos);
+        for (const OptionSpec& option : format.options) {
+            EXPECT_NE(formats.find("--" + std::string(option.name)), std::string::npos);
+            EXPECT_NE(m_out.find("--" + std::string(option.name)), std::string::npos);
+            // A default must be a value that the option itself takes.
+            const GivenOptions given{{std::string(option.name), std::string(option.fallback)}};
+            EXPECT_NO_THROW(OptionValues(format.id, format.options, given));
+        }
+    }
+    for (const char* command : {"import", "info", "formats"}) {
+        EXPECT_EQ(Run({command, "--help"}), kDone);
+    }
+    EXPECT_EQ(Run({"--help"}), kDone);
+    EXPECT_EQ(Run({"--version"}), kDone);
+}
+
+TEST_F(VynxTest, InfoTellsWhatAModelHolds) {
+    ASSERT_EQ(Run({"info", Footbridge()}), kDone);
+    for (const char* line : {"nodes                   51", "elements                116", "BEAM",
+                             "analysis cases", "M1  (results)", "x  0 to 30"}) {
+        EXPECT_NE(m_out.find(line), std::string::npos) << line << "\n" << m_out;
+    }
+}
+
+}  // namespace
+}  // namespace Vynx
