@@ -211,8 +211,8 @@ struct Codec<std::array<T, N>> {
     }
     static Json Write(const std::array<T, N>& values) {
         Json list = Json::array();
-        for (const T& value : values) {
-            list.push_back(Codec<T>::Write(value));
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            list.push_back(At(i, [&] { return Codec<T>::Write(values[i]); }));
         }
         return list;
     }
@@ -234,8 +234,8 @@ struct Codec<std::vector<T>> {
     static std::string Expected() { return "a list, each item " + Codec<T>::Expected(); }
     static Json Write(const std::vector<T>& values) {
         Json list = Json::array();
-        for (const T& value : values) {
-            list.push_back(Codec<T>::Write(value));
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            list.push_back(At(i, [&] { return Codec<T>::Write(values[i]); }));
         }
         return list;
     }

@@ -143,7 +143,7 @@ private:
     const CBitSet& Saved(int number, const CEntList& list) {
         static const CBitSet kNothing;
         constexpr int kDeepest = 128;
-        if (list.TypeOf() != m_scope.kind || list.Terms() == nullptr || m_depth == kDeepest) {
+        if (list.TypeOf() != m_scope.kind || list.Terms() == nullptr || m_depth >= kDeepest) {
             return kNothing;
         }
         const auto [entry, isNew] = m_saved.try_emplace(number);

@@ -141,7 +141,7 @@ TEST(Document, WhatIsWrongIsNamedWithItsPath) {
          "analysis_cases[0].description: expected a case description such as \"1.35L1 + 1.5L2\""},
         {R"({"version": 1, "results": [{"global": {}}]})",
          "results[0].global: the key \"case\" must come first"},
-        {R"({"version": 1, "results": [{}]})", "results[0].: the key \"case\" is missing"},
+        {R"({"version": 1, "results": [{}]})", "results[0]: the key \"case\" is missing"},
         {R"({"version": 1, "results": [{"case": 1, "node_displacement": [[1, 2, 3]]}]})",
          "results[0].node_displacement[0]: expected an entity number and a multiple of 6 figures"},
         {R"({"version": 1, "results": [{"case": 1, "node_displacement": [[1.5, 2, 3]]}]})",

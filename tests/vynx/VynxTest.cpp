@@ -153,7 +153,7 @@ TEST_F(VynxTest, WhatCanNotBeDoneEndsWithAMessageAndLeavesNoFile) {
          "--to all writes every format with its defaults"},
         {{"export", bridge, "--to", "damping"}, kUsage, "--output is required"},
         {{}, kUsage, "subcommand"},
-        {{"frobnicate"}, kUsage, "frobnicate"}};
+        {{"frobnicate"}, kUsage, "subcommand"}};
     const Names before = Files();
     for (const Case& c : cases) {
         SCOPED_TRACE(::testing::PrintToString(c.words));
