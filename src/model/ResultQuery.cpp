@@ -106,6 +106,9 @@ private:
         const std::span<double> term(figures.data(), out.size());
         std::fill(out.begin(), out.end(), 0.0);
         for (const FactoredCase& part : parts) {
+            if (part.factor == 0.0) {
+                continue;  // takes no part, whether it has results or not
+            }
             Part(part.ref, term);
             for (std::size_t i = 0; i < out.size(); ++i) {
                 out[i] += part.factor * term[i];
