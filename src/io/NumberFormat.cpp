@@ -1,11 +1,15 @@
 #include "io/NumberFormat.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
+
+#include "io/DecimalDigits.h"
 
 namespace Tevra {
 namespace {
@@ -50,16 +54,74 @@ bool SignOrSpecial(char*& out, double value, bool plus) {
     return true;
 }
 
-char* Digits(char* out, double magnitude, std::chars_format format, int precision) {
-    return std::to_chars(out, out + kMaxNumberText - 1, magnitude, format, precision).ptr;
+constexpr auto kPairs = [] {
+    std::array<char, 200> pairs{};
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        const std::size_t digit = i % 2 == 0 ? i / 20 : i / 2 % 10;
+        pairs[i] = static_cast<char>('0' + digit);
+    }
+    return pairs;
+}();
+
+/// The last `count` digits of a number, with leading zeros.
+char* WriteDigits(char* out, std::uint64_t number, int count) {
+    char* at = out + count;
+    for (; at - out >= 2; number /= 100) {
+        at -= 2;
+        std::memcpy(at, &kPairs[number % 100 * 2], 2);
+    }
+    if (at != out) {
+        *out = static_cast<char>('0' + number % 10);
+    }
+    return out + count;
 }
 
-/// A sign, a format with a given number of decimals, a width.
-char* AppendDecimals(char* out, double value, int width, int precision, std::chars_format format,
-                     bool plus) {
+char* WriteExponent(char* out, int exponent) {
+    *out++ = 'e';
+    *out++ = exponent < 0 ? '-' : '+';
+    const int size = std::abs(exponent);
+    return WriteDigits(out, static_cast<std::uint64_t>(size), size < 100 ? 2 : 3);
+}
+
+char* WriteExp(char* out, double magnitude, int precision) {
+    std::uint64_t digits = 0;
+    int exponent = 0;
+    const bool isShort =
+        precision < kMaxDecimalDigits &&
+        (magnitude == 0.0 || SignificantDigits(magnitude, precision + 1, digits, exponent));
+    if (!isShort) {
+        return std::to_chars(out, out + kMaxNumberText - 1, magnitude,
+                             std::chars_format::scientific, precision)
+            .ptr;
+    }
+    char* const last = WriteDigits(out + 1, digits, precision + 1);
+    out[0] = out[1];
+    out[1] = '.';
+    return WriteExponent(precision > 0 ? last : out + 1, exponent);
+}
+
+char* WriteFixed(char* out, double magnitude, int precision) {
+    std::uint64_t scaled = 0;
+    if (precision > kMaxDecimalDigits || !ScaleToInteger(magnitude, precision, scaled)) {
+        return std::to_chars(out, out + kMaxNumberText - 1, magnitude, std::chars_format::fixed,
+                             precision)
+            .ptr;
+    }
+    const std::uint64_t one = IntegerPowerOfTen(precision);
+    out = std::to_chars(out, out + kMaxNumberText - 1, scaled / one).ptr;
+    if (precision > 0) {
+        *out++ = '.';
+        out = WriteDigits(out, scaled % one, precision);
+    }
+    return out;
+}
+
+/// A sign, the digits with a given number of decimals, a width.
+template <char* (*kWrite)(char*, double, int)>
+char* AppendDecimals(char* out, double value, int width, int precision, bool plus) {
     char* const first = out;
     if (!SignOrSpecial(out, value, plus)) {
-        out = Digits(out, std::fabs(value), format, ClampPrecision(precision));
+        out = kWrite(out, std::fabs(value), ClampPrecision(precision));
     }
     return Justify(first, out, width);
 }
@@ -72,12 +134,18 @@ struct Scientific {
 };
 
 Scientific RoundedDigits(double magnitude, int significant) {
+    Scientific result;
+    result.count = significant;
+    std::uint64_t digits = 0;
+    if (significant <= kMaxDecimalDigits &&
+        (magnitude == 0.0 || SignificantDigits(magnitude, significant, digits, result.exponent))) {
+        WriteDigits(result.digits, digits, significant);
+        return result;
+    }
     char text[kMaxNumberPrecision + 16];
     const char* end = std::to_chars(text, text + sizeof text, magnitude,
                                     std::chars_format::scientific, significant - 1)
                           .ptr;
-    Scientific result;
-    result.count = significant;
     result.digits[0] = text[0];
     // Past the first digit stands the decimal point, unless no digit follows.
     const char* mark = text + 1;
@@ -89,12 +157,6 @@ Scientific RoundedDigits(double magnitude, int significant) {
     std::from_chars(mark + 2, end, result.exponent);
     result.exponent = negative ? -result.exponent : result.exponent;
     return result;
-}
-
-char* WriteExponent(char* out, int exponent) {
-    *out++ = 'e';
-    *out++ = exponent < 0 ? '-' : '+';
-    return AppendInt(out, std::abs(exponent), 0, 2);
 }
 
 /// Digits in fixed notation, the decimal point after the one of `exponent`.
@@ -162,15 +224,15 @@ char* AppendInt(char* out, long long value, int width, int digits) {
 }
 
 char* AppendExp(char* out, double value, int width, int precision) {
-    return AppendDecimals(out, value, width, precision, std::chars_format::scientific, false);
+    return AppendDecimals<WriteExp>(out, value, width, precision, false);
 }
 
 char* AppendFixed(char* out, double value, int width, int precision) {
-    return AppendDecimals(out, value, width, precision, std::chars_format::fixed, false);
+    return AppendDecimals<WriteFixed>(out, value, width, precision, false);
 }
 
 char* AppendSignedFixed(char* out, double value, int width, int precision) {
-    return AppendDecimals(out, value, width, precision, std::chars_format::fixed, true);
+    return AppendDecimals<WriteFixed>(out, value, width, precision, true);
 }
 
 char* AppendGeneral(char* out, double value, int width, int precision) {

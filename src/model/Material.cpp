@@ -31,10 +31,7 @@ double CMatAnal::Param(int index) const {
         default:
             break;
     }
-    const int further = index - kFirstModelParam;
-    return further >= 0 && further < NumOpsParam()
-               ? m_modelParams[static_cast<std::size_t>(further)]
-               : 0.0;
+    return index >= kFirstModelParam ? OpsParam(index - kFirstModelParam) : 0.0;
 }
 
 }  // namespace Tevra::Data

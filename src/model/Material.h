@@ -110,7 +110,9 @@ public:
     /// Material curves that the model refers to, by number.
     const std::vector<int>& Curves() const { return m_curves; }
     int NumOpsParam() const { return static_cast<int>(m_modelParams.size()); }
-    double OpsParam(int k) const { return Param(kFirstModelParam + k); }
+    double OpsParam(int k) const {
+        return k >= 0 && k < NumOpsParam() ? m_modelParams[static_cast<std::size_t>(k)] : 0.0;
+    }
     const std::vector<ParamGroup>& OpsGroups() const { return m_groups; }
     /// Words of a uniaxial model (bond condition, damage type, curve type), in its order.
     const std::vector<std::wstring>& OpsTexts() const { return m_texts; }
