@@ -35,7 +35,7 @@ class CVynData : public CModelData {
 public:
     CVynData();
     CVynData(const CVynData& o);
-    CVynData(CVynData&& o);
+    CVynData(CVynData&& o);  // NOLINT(performance-noexcept-move-constructor): makes its own locks
     ~CVynData();
     CVynData& operator=(const CVynData& o);
     CVynData& operator=(CVynData&& o) noexcept;

@@ -8,6 +8,7 @@
 #include "vynx/Console.h"
 #include "vynx/Format.h"
 #include "vynx/commands/Commands.h"
+#include "vynx/samples/Samples.h"
 
 namespace Vynx {
 
@@ -118,6 +119,27 @@ void AddInfo(CLI::App& app, InfoRequest& request) {
     command->callback([&] { Info(request); });
 }
 
+void AddSample(CLI::App& app, SampleRequest& request) {
+    CLI::App* command = app.add_subcommand("sample", "Make a regular model of any size");
+    std::string kinds;
+    for (const SampleKind& kind : SampleKinds()) {
+        kinds += "\n" + std::string(kind.name) + ": " + std::string(kind.help);
+    }
+    command->add_option("KIND", request.kind, "Kind of model:" + kinds)->required();
+    command->add_option("--size", request.nodes, "Number of nodes, about")
+        ->check(CLI::Range(1, kLargestSample))
+        ->capture_default_str()
+        ->type_name("N");
+    command
+        ->add_option("-o,--output", request.output,
+                     "File to write, in the format of its extension (- is a document on standard "
+                     "output)")
+        ->required()
+        ->type_name("PATH");
+    command->footer(kFooter);
+    command->callback([&] { Sample(request); });
+}
+
 int Parse(CLI::App& app, int count, const char* const* arguments) {
     try {
         app.parse(count, arguments);
@@ -142,10 +164,12 @@ int Run(int count, const char* const* arguments) {
     ExportRequest exportRequest;
     ImportRequest importRequest;
     InfoRequest infoRequest;
+    SampleRequest sampleRequest;
     FormatOptions options;
     AddExport(app, exportRequest, options);
     AddImport(app, importRequest);
     AddInfo(app, infoRequest);
+    AddSample(app, sampleRequest);
     app.add_subcommand("formats", "List the formats and their options")->callback(ListFormats);
 
     ToolHost host;

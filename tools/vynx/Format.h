@@ -43,4 +43,7 @@ const Format* FindFormat(std::string_view id);
 /// The readable format whose extension (in any case) a file has, null when there is none.
 const Format* ReaderOf(const std::filesystem::path& file);
 
+/// The same for formats that can be written.
+const Format* WriterOf(const std::filesystem::path& file);
+
 }  // namespace Vynx

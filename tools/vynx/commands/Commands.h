@@ -33,6 +33,14 @@ struct InfoRequest {
 /// Prints what a model holds.
 void Info(const InfoRequest& request);
 
+struct SampleRequest {
+    std::string kind;
+    std::string output;
+    int nodes = 1000;
+};
+/// Makes a model of a kind of sample and writes it in the format of the output's extension.
+void Sample(const SampleRequest& request);
+
 /// Prints the host's export formats and those of this program with their options.
 void ListFormats();
 

@@ -1,10 +1,9 @@
 #include <filesystem>
 #include <iostream>
 
-#include "vynx/Console.h"
 #include "vynx/Format.h"
 #include "vynx/ModelFile.h"
-#include "vynx/OutputFile.h"
+#include "vynx/SaveModel.h"
 #include "vynx/commands/Commands.h"
 
 namespace Vynx {
@@ -17,23 +16,6 @@ std::string StemOf(const std::string& model) {
     return fs::path(model).stem().string();
 }
 
-/// Writes one format; false when the writer says so (its messages are out then).
-bool WriteFormat(const Format& format, const OptionValues& options, Tevra::CVynData& model,
-                 const std::string& target, const std::string& stem) {
-    OutputFile output(target, stem + std::string(format.extensions.front()));
-    ToolHost host;
-    host.SetOutput(&output);
-    const Tevra::ScopedHost scope(host);
-    const Progress progress("writing " + target);
-    ExportJob job{model, output.WorkPath(), options};
-    const bool written = format.write(job);
-    SayLog(output.WithTarget(job.log));
-    if (written) {
-        output.Commit();
-    }
-    return written;
-}
-
 void ExportOne(const ExportRequest& request) {
     const Format* format = FindFormat(request.format);
     if (format == nullptr || format->write == nullptr) {
@@ -43,16 +25,7 @@ void ExportOne(const ExportRequest& request) {
     const OptionValues options(format->id, format->options, request.options);
     Tevra::CVynData model;
     LoadModel(request.model, request.from, model);
-    if (format->lacks != nullptr) {
-        const std::string lack = format->lacks(model, options);
-        if (!lack.empty()) {
-            throw Failure(kFailed,
-                          request.model + ": can't be written as " + request.format + ": " + lack);
-        }
-    }
-    if (!WriteFormat(*format, options, model, request.output, StemOf(request.model))) {
-        throw Failure(kFailed, request.output + ": not written");
-    }
+    SaveModel(*format, options, model, request.output, request.model);
 }
 
 void ExportAll(const ExportRequest& request) {
@@ -82,7 +55,7 @@ void ExportAll(const ExportRequest& request) {
         }
         const std::string target =
             (fs::path(request.output) / (stem + std::string(format.extensions.front()))).string();
-        if (WriteFormat(format, options, model, target, stem)) {
+        if (WriteFormat(format, options, model, target, request.model)) {
             std::cout << id << ": " << target << '\n';
         } else {
             failed += (failed.empty() ? "" : ", ") + id;
