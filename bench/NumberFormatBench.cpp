@@ -29,7 +29,7 @@ void Run(benchmark::State& state, Format format) {
     const std::vector<double> values = Values(state.range(0) != 0, 20261121);
     char text[Tevra::kMaxNumberText];
     std::int64_t bytes = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         for (const double v : values) {
             bytes += format(text, v);
         }

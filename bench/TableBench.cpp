@@ -22,7 +22,7 @@ void FillTable(NumberedTable<Vec3<double>>& table, int first) {
 }
 
 void TableSet(benchmark::State& state) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         NumberedTable<Vec3<double>> table;
         FillTable(table, First(state));
         benchmark::DoNotOptimize(table.Highest());
@@ -34,7 +34,7 @@ void TableGet(benchmark::State& state) {
     const int first = First(state);
     NumberedTable<Vec3<double>> table;
     FillTable(table, first);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         double sum = 0.0;
         for (int i = 0; i < kRecords; ++i) {
             sum += table.Get(first + i).x;
@@ -47,7 +47,7 @@ void TableGet(benchmark::State& state) {
 void TableWalk(benchmark::State& state) {
     NumberedTable<Vec3<double>> table;
     FillTable(table, First(state));
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         std::int64_t sum = 0;
         for (const int number : table.Numbers()) {
             sum += number;
@@ -86,7 +86,7 @@ constexpr int kElements = 100'000;
 
 void ElementAxes(benchmark::State& state) {
     const CVynData model = Spiral(kElements);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         for (int i = 1; i <= kElements; ++i) {
             benchmark::DoNotOptimize(model.ElemDC(i));
         }
@@ -99,7 +99,7 @@ void Displacements(benchmark::State& state) {
     const CVynData model = Spiral(kElements);
     const SCaseRef ref =
         state.range(0) != 0 ? SCaseRef(CaseOp::Combination, 1, kMaximumEnvelope) : AnalysisRef(1);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         for (int i = 1; i <= kElements; ++i) {
             benchmark::DoNotOptimize(model.Disp(i, ref));
         }

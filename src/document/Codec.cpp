@@ -107,7 +107,7 @@ void Codec<Colour>::Read(const Json& json, Colour& colour) {
     if (!isText) {
         Refuse(Expected());
     }
-    const std::string& text = json.get_ref<const std::string&>();
+    const auto& text = json.get_ref<const std::string&>();
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data() + 1, end, rgb, 16);
     if (error != std::errc() || stop != end) {

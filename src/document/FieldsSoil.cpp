@@ -44,11 +44,7 @@ std::vector<std::wstring> KindsOf(const COpView& view) {
     return kinds;
 }
 void SetKindsOf(COpView& view, const std::vector<std::wstring>& kinds) {
-    std::vector<Data::CDataRef> data;
-    for (const std::wstring& kind : kinds) {
-        data.emplace_back(kind);
-    }
-    view.SetData(std::move(data));
+    view.SetData(std::vector<Data::CDataRef>(kinds.begin(), kinds.end()));
 }
 
 }  // namespace

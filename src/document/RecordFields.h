@@ -42,9 +42,11 @@ constexpr std::array<Field<R>, 3> NamedFields() {
 }
 
 // Record types with a table of fields; the tables stand in Fields*.cpp.
+// NOLINTBEGIN(bugprone-macro-parentheses): a type
 #define VYN_DECLARE_FIELDS(Kind, R) \
     template <>                     \
     std::span<const Field<R>> FieldsOf<R>();
+// NOLINTEND(bugprone-macro-parentheses)
 VYN_RECORD_KINDS(VYN_DECLARE_FIELDS)
 VYN_DECLARE_FIELDS(, Data::CElemConnect)
 VYN_DECLARE_FIELDS(, Data::COffset)

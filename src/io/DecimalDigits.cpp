@@ -49,13 +49,18 @@ struct WidePower {
 
 using PowerTable = std::array<PowerOfTen, 2 * kMaxDecimalPower + 1>;
 
+constexpr std::size_t PlaceOf(int power) {
+    const int place = kMaxDecimalPower + power;
+    return static_cast<std::size_t>(place);
+}
+
 constexpr PowerTable MakePowers() {
     PowerTable table{};
     WidePower up;
     WidePower down;
     for (int power = 0; power <= kMaxDecimalPower; ++power) {
-        table[static_cast<std::size_t>(kMaxDecimalPower + power)] = up.Cut();
-        table[static_cast<std::size_t>(kMaxDecimalPower - power)] = down.Cut();
+        table[PlaceOf(power)] = up.Cut();
+        table[PlaceOf(-power)] = down.Cut();
         up.TimesTen();
         down.ByTen();
     }
@@ -109,7 +114,7 @@ bool ScaleToInteger(double magnitude, int power, std::uint64_t& integer) {
         return false;  // subnormal, not finite, negative, or beyond the table
     }
     const std::uint64_t mantissa = (bits << 11) | (std::uint64_t{1} << 63);
-    const PowerOfTen& ten = kPowers[static_cast<std::size_t>(power + kMaxDecimalPower)];
+    const PowerOfTen& ten = kPowers[PlaceOf(power)];
     const Wide product = Wide{mantissa} * ten.mantissa;
     const auto upper = static_cast<std::uint64_t>(product >> 64);
     const auto lower = static_cast<std::uint64_t>(product);

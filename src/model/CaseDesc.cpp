@@ -101,6 +101,7 @@ std::vector<CaseDescPart::Load> CCaseDesc::Factors(int part) const {
         sums[load.loadCase] += load.factor;
     }
     std::vector<CaseDescPart::Load> factors;
+    factors.reserve(sums.size());
     for (const auto& [loadCase, factor] : sums) {
         factors.push_back({loadCase, factor});
     }

@@ -78,8 +78,10 @@ private:
     struct Kept {
         Kept() = default;
         Kept(const Kept& /*o*/) {}
-        Kept& operator=(const Kept& /*o*/) {
-            expansion.reset();
+        Kept& operator=(const Kept& o) {
+            if (this != &o) {
+                expansion.reset();
+            }
             return *this;
         }
         ~Kept() = default;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "model/BitSet.h"
 #include "model/Types.h"
@@ -30,7 +31,7 @@ struct ListNumbers {
 class CEntList {
 public:
     CEntList();
-    CEntList(std::wstring text, SelType type);
+    CEntList(std::wstring_view text, SelType type);
 
     SelType TypeOf() const { return m_type; }
     /// The text as it was set, without surrounding blanks.

@@ -134,7 +134,8 @@ private:
 class CList : public NamedEntity {
 public:
     CList() = default;
-    CList(std::wstring name, const CEntList& list) : NamedEntity(std::move(name)), m_list(list) {}
+    CList(std::wstring name, CEntList list)
+        : NamedEntity(std::move(name)), m_list(std::move(list)) {}
     SelType TypeOf() const { return m_list.TypeOf(); }
     const CEntList& Definition() const { return m_list; }
     void SetDefinition(const CEntList& list) { m_list = list; }

@@ -102,7 +102,7 @@ public:
     /// over whole.
     int NextAtOrAbove(int number) const {
         std::size_t i = number < 1 ? 0 : Index(number);
-        const std::size_t end = static_cast<std::size_t>(m_highest);
+        const auto end = static_cast<std::size_t>(m_highest);
         while (i < end) {
             const Book* book = m_books[i / kBookSpan].get();
             if (book == nullptr) {
