@@ -4,6 +4,44 @@
 
 namespace Tevra {
 
+#define VYN_MAKE_TABLE_CLASS(Kind, Record) template class NumberedTable<Record>;
+#define VYN_MADE_ALREADY(Kind, Record)
+VYN_RECORD_KINDS_OF(VYN_MAKE_TABLE_CLASS, VYN_MADE_ALREADY)
+#undef VYN_MAKE_TABLE_CLASS
+#undef VYN_MADE_ALREADY
+
+template <class Record>
+bool CModelData::Store(NumberedTable<Record>& table, int number, Record record) {
+    Touch();
+    if (number < 1) {
+        return false;
+    }
+    BeforeStore(number, record);
+    return table.Set(number, std::move(record));
+}
+
+template <class Record>
+bool CModelData::Remove(NumberedTable<Record>& table, int number) {
+    Touch();
+    if (const Record* record = table.Find(number)) {
+        BeforeRemove(*record);
+    }
+    return table.Erase(number);
+}
+
+#define VYN_DEFINE_OPERATIONS(Kind, Record)                 \
+    bool CModelData::Set##Kind(int number, Record record) { \
+        return Store(m_##Kind, number, std::move(record));  \
+    }                                                       \
+    bool CModelData::Delete##Kind(int number) {             \
+        return Remove(m_##Kind, number);                    \
+    }                                                       \
+    bool CModelData::Blank##Kind(int number) {              \
+        return Remove(m_##Kind, number);                    \
+    }
+VYN_RECORD_KINDS(VYN_DEFINE_OPERATIONS)
+#undef VYN_DEFINE_OPERATIONS
+
 void CModelData::Touch() {
     static std::atomic<std::uint64_t> last{0};
     m_revision = ++last;

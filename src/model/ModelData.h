@@ -22,9 +22,10 @@
 #include "model/Unit.h"
 #include "model/View.h"
 
-// Every kind of numbered record, declared once: KIND(name, record class). A new kind is one line.
+// Every kind of numbered record, declared once: KIND(name, record class), or AGAIN(...) where a
+// kind above has the same class. A new kind is one line.
 // clang-format off
-#define VYN_RECORD_KINDS(KIND)                                  \
+#define VYN_RECORD_KINDS_OF(KIND, AGAIN)                        \
     KIND(Node, Data::CNode)                                     \
     KIND(Elem, Data::CElement)                                  \
     KIND(Member, Data::CMember)                                 \
@@ -41,13 +42,13 @@
     KIND(LinkProp, Data::CLinkProp)                             \
     KIND(MatAnal, Data::CMatAnal)                               \
     KIND(MatConcrete, Data::CMatDesign)                         \
-    KIND(MatSteel, Data::CMatDesign)                            \
-    KIND(MatFrp, Data::CMatDesign)                              \
-    KIND(MatAluminium, Data::CMatDesign)                        \
-    KIND(MatGlass, Data::CMatDesign)                            \
-    KIND(MatTimber, Data::CMatDesign)                           \
-    KIND(MatFabric, Data::CMatDesign)                           \
-    KIND(MatRebar, Data::CMatDesign)                            \
+    AGAIN(MatSteel, Data::CMatDesign)                           \
+    AGAIN(MatFrp, Data::CMatDesign)                             \
+    AGAIN(MatAluminium, Data::CMatDesign)                       \
+    AGAIN(MatGlass, Data::CMatDesign)                           \
+    AGAIN(MatTimber, Data::CMatDesign)                          \
+    AGAIN(MatFabric, Data::CMatDesign)                          \
+    AGAIN(MatRebar, Data::CMatDesign)                           \
     KIND(MatCurve, Data::CMatCurve)                             \
     KIND(LoadCurve, Data::CLoadCurve)                           \
     KIND(List, Data::CList)                                     \
@@ -76,12 +77,18 @@
     KIND(SoilZone, Data::CSoilZone)                             \
     KIND(SoilCurve, Data::CSoilCurve)                           \
     KIND(PileSoilProperty, Data::CPileSoilProperty)             \
-    KIND(PileSoilCurve, Data::CPileSoilCurve)                   \
+    AGAIN(PileSoilCurve, Data::CPileSoilCurve)                  \
     KIND(SoilRectLoad, Data::CSoilRectLoad)                     \
     KIND(View, Data::COpView)
 // clang-format on
+#define VYN_RECORD_KINDS(KIND) VYN_RECORD_KINDS_OF(KIND, KIND)
 
 namespace Tevra {
+
+// ModelData.cpp makes what these tables need.
+#define VYN_DECLARE_TABLE_CLASS(Kind, Record) extern template class NumberedTable<Record>;
+VYN_RECORD_KINDS(VYN_DECLARE_TABLE_CLASS)
+#undef VYN_DECLARE_TABLE_CLASS
 
 /// Names of the design codes of the model; empty when not set.
 struct DesignOptions {
@@ -112,30 +119,24 @@ struct MassOptions {
 /// `<Kind>Table()`, whose `Numbers()` runs over the numbers in use.
 class CModelData {
 public:
-#define VYN_DECLARE_OPERATIONS(Kind, Record)               \
-    int Highest##Kind() const {                            \
-        return m_##Kind.Highest();                         \
-    }                                                      \
-    bool Kind##Exist(int number) const {                   \
-        return m_##Kind.Exist(number);                     \
-    }                                                      \
-    const Record& Kind(int number) const {                 \
-        return m_##Kind.Get(number);                       \
-    }                                                      \
-    bool Set##Kind(int number, Record record) {            \
-        return Store(m_##Kind, number, std::move(record)); \
-    }                                                      \
-    bool Delete##Kind(int number) {                        \
-        return Remove(m_##Kind, number);                   \
-    }                                                      \
-    bool Blank##Kind(int number) {                         \
-        return Remove(m_##Kind, number);                   \
-    }                                                      \
-    int Num##Kind() const {                                \
-        return m_##Kind.Count();                           \
-    }                                                      \
-    const NumberedTable<Record>& Kind##Table() const {     \
-        return m_##Kind;                                   \
+#define VYN_DECLARE_OPERATIONS(Kind, Record)           \
+    int Highest##Kind() const {                        \
+        return m_##Kind.Highest();                     \
+    }                                                  \
+    bool Kind##Exist(int number) const {               \
+        return m_##Kind.Exist(number);                 \
+    }                                                  \
+    const Record& Kind(int number) const {             \
+        return m_##Kind.Get(number);                   \
+    }                                                  \
+    bool Set##Kind(int number, Record record);         \
+    bool Delete##Kind(int number);                     \
+    bool Blank##Kind(int number);                      \
+    int Num##Kind() const {                            \
+        return m_##Kind.Count();                       \
+    }                                                  \
+    const NumberedTable<Record>& Kind##Table() const { \
+        return m_##Kind;                               \
     }
     VYN_RECORD_KINDS(VYN_DECLARE_OPERATIONS)
 #undef VYN_DECLARE_OPERATIONS
@@ -298,22 +299,9 @@ protected:
 
 private:
     template <class Record>
-    bool Store(NumberedTable<Record>& table, int number, Record record) {
-        Touch();
-        if (number < 1) {
-            return false;
-        }
-        BeforeStore(number, record);
-        return table.Set(number, std::move(record));
-    }
+    bool Store(NumberedTable<Record>& table, int number, Record record);
     template <class Record>
-    bool Remove(NumberedTable<Record>& table, int number) {
-        Touch();
-        if (const Record* record = table.Find(number)) {
-            BeforeRemove(*record);
-        }
-        return table.Erase(number);
-    }
+    bool Remove(NumberedTable<Record>& table, int number);
 
     // Nodes know the global restraint and whether they orient something; these keep that true in
     // whatever order records are written.
