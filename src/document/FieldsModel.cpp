@@ -27,7 +27,7 @@ void SetUnitOf(CUnit& units, std::wstring text) {
     units.SetUnitString(static_cast<int>(Kind), std::move(text));
 }
 template <UnitKind Kind>
-constexpr Field<CUnit> UnitKey(std::string_view key) {
+constexpr Field UnitKey(std::string_view key) {
     return Key<CUnit, &UnitOf<Kind>, &SetUnitOf<Kind>>(key, "Unit of reports; the model is SI");
 }
 
@@ -69,13 +69,16 @@ Json FigureSchema(const Vec3<double>& /*unused*/) {
 
 /// A key of global results: missing figures are left out or null.
 template <auto Member>
-constexpr Field<GlobalResults> FigureKey(std::string_view key, std::string_view meaning) {
-    return {key,
-            meaning,
-            [](const GlobalResults& r) { return WriteFigure(r.*Member); },
-            [](const Json& json, GlobalResults& r) { ReadFigure(json, r.*Member); },
-            [](const GlobalResults& r) { return Missing(r.*Member); },
-            [] { return FigureSchema(std::remove_cvref_t<decltype(GlobalResults().*Member)>{}); }};
+constexpr Field FigureKey(std::string_view key, std::string_view meaning) {
+    return {
+        key,
+        meaning,
+        [](const void* r) { return WriteFigure(static_cast<const GlobalResults*>(r)->*Member); },
+        [](const Json& json, void* r) {
+            ReadFigure(json, static_cast<GlobalResults*>(r)->*Member);
+        },
+        [](const void* r) { return Missing(static_cast<const GlobalResults*>(r)->*Member); },
+        [] { return FigureSchema(std::remove_cvref_t<decltype(GlobalResults().*Member)>{}); }};
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ void SetFigure(R& record, T value) {
     record.Set(values);
 }
 template <class R, auto Member>
-constexpr Field<R> FigureKey(std::string_view key, std::string_view meaning) {
+constexpr Field FigureKey(std::string_view key, std::string_view meaning) {
     using T = std::remove_cvref_t<decltype(R().Get().*Member)>;
     return Key<R, &Figure<R, Member>, &SetFigure<R, Member, T>>(key, meaning);
 }

@@ -61,7 +61,7 @@ void SetConnectOf(R& record, const CElemConnect& connect) {
     record.SetConnect(End, connect);
 }
 template <class R>
-constexpr std::array<Field<R>, 2> ReleaseFields() {
+constexpr std::array<Field, 2> ReleaseFields() {
     return {Key<R, &ConnectOf<R, 1>, &SetConnectOf<R, 1>>("release_1", "Connection of end 1"),
             Key<R, &ConnectOf<R, 2>, &SetConnectOf<R, 2>>("release_2", "Connection of end 2")};
 }

@@ -34,7 +34,7 @@ void SetColourOf(R& record, Colour colour) {
 
 /// The keys that every named record has.
 template <class R>
-constexpr std::array<Field<R>, 3> NamedFields() {
+constexpr std::array<Field, 3> NamedFields() {
     return {Key<R, &R::Name, &R::SetName>("name", "Name"),
             Key<R, &ColourOf<R>, &SetColourOf<R>>("colour", "Colour, \"#rrggbb\""),
             Key<R, &R::Sid, &R::SetSid>(
@@ -45,7 +45,7 @@ constexpr std::array<Field<R>, 3> NamedFields() {
 // NOLINTBEGIN(bugprone-macro-parentheses): a type
 #define VYN_DECLARE_FIELDS(Kind, R) \
     template <>                     \
-    std::span<const Field<R>> FieldsOf<R>();
+    Fields FieldsOf<R>();
 // NOLINTEND(bugprone-macro-parentheses)
 VYN_RECORD_KINDS(VYN_DECLARE_FIELDS)
 VYN_DECLARE_FIELDS(, Data::CElemConnect)
@@ -81,7 +81,7 @@ VYN_DECLARE_FIELDS(, Settings)
 /// Gives a record type its table of fields.
 #define VYN_FIELDS(R, ...)                           \
     template <>                                      \
-    std::span<const Field<R>> FieldsOf<R>() {        \
+    Fields FieldsOf<R>() {                           \
         static constexpr auto kFields = __VA_ARGS__; \
         return kFields;                              \
     }

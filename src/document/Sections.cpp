@@ -67,26 +67,22 @@ constexpr KindName kPileSoilCurve{"pile_soil_curves", "pile-soil curve"};
 constexpr KindName kSoilRectLoad{"soil_loads", "soil load"};
 constexpr KindName kView{"views", "output view"};
 
-template <class Record>
-void WriteRecords(const NumberedTable<Record>& table, const KindName& name,
-                  const std::function<void(const Json&)>& emit) {
-    for (const int number : table.Numbers()) {
-        Json object = {{"number", number}};
-        At(std::string(name.kind) + " " + std::to_string(number),
-           [&] { WriteFields(*table.Find(number), object); });
-        emit(object);
-    }
+constexpr std::string_view kNumberKey = "number";
+
+Json NumberedObject(int number, const KindName& name, Fields fields, const void* record) {
+    Json object = Json::object();
+    object[std::string(kNumberKey)] = number;
+    At(std::string(name.kind) + " " + std::to_string(number),
+       [&] { WriteFields(fields, record, object); });
+    return object;
 }
 
-template <class Record>
-void ReadRecord(const Json& json, const NumberedTable<Record>& table, CVynData& model,
-                bool (CModelData::*set)(int, Record)) {
-    Record record;
-    ReadFields(json, record, [](const std::string& key) { return key == "number"; });
-    const auto given = json.find("number");
+/// The number that an object gives, which its table must not have yet.
+int FreeNumber(const Json& object, const NumberedPages& table) {
     int number = 0;
-    At("number", [&] {
-        if (given == json.end()) {
+    At(kNumberKey, [&] {
+        const auto given = object.find(kNumberKey);
+        if (given == object.end()) {
             throw FieldError("missing");
         }
         Codec<int>::Read(*given, number);
@@ -97,13 +93,33 @@ void ReadRecord(const Json& json, const NumberedTable<Record>& table, CVynData& 
             throw FieldError(std::to_string(number) + " is used twice");
         }
     });
-    (model.*set)(number, std::move(record));
+    return number;
+}
+
+Json NumberedSchema(Fields fields) {
+    return ObjectSchema(
+        fields, {{kNumberKey, {{"type", "integer"}, {"minimum", 1}, {"maximum", 2147483647}}}});
+}
+
+template <class Record>
+void WriteRecords(const NumberedTable<Record>& table, const KindName& name,
+                  const std::function<void(const Json&)>& emit) {
+    for (const int number : table.Numbers()) {
+        emit(NumberedObject(number, name, FieldsOf<Record>(), table.Find(number)));
+    }
+}
+
+template <class Record>
+void ReadRecord(const Json& json, const NumberedTable<Record>& table, CVynData& model,
+                bool (CModelData::*set)(int, Record)) {
+    Record record;
+    ReadFields(FieldsOf<Record>(), json, &record, kNumberKey);
+    (model.*set)(FreeNumber(json, table), std::move(record));
 }
 
 template <class Record>
 Json RecordSchema() {
-    return ObjectSchema<Record>(
-        {{"number", {{"type", "integer"}, {"minimum", 1}, {"maximum", 2147483647}}}});
+    return NumberedSchema(FieldsOf<Record>());
 }
 
 Json NotIfDefault(Json value, bool isDefault) {
