@@ -14,6 +14,10 @@ namespace Tevra {
 /// demand, reached through books of pages. What a page of records is, the table knows.
 class NumberedPages {
 public:
+    NumberedPages(const NumberedPages&) = delete;
+    NumberedPages& operator=(const NumberedPages&) = delete;
+    NumberedPages& operator=(NumberedPages&&) = delete;
+
     /// Highest number in use, 0 when the table is empty.
     int Highest() const { return m_highest; }
     /// Number of records.
@@ -84,9 +88,6 @@ protected:
 
     NumberedPages() = default;
     NumberedPages(NumberedPages&& o) noexcept { Swap(o); }
-    NumberedPages(const NumberedPages&) = delete;
-    NumberedPages& operator=(const NumberedPages&) = delete;
-    NumberedPages& operator=(NumberedPages&&) = delete;
     ~NumberedPages() = default;
 
     void Swap(NumberedPages& o) noexcept {
