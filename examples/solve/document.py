@@ -86,7 +86,8 @@ def axis(n, v):
 
 
 def section(n, v):
-    material = {"type": "steel", "grade": v["grade"], "analysis": v["material"]}
+    family = v.get("family", "steel")
+    material = {"type": family, "grade": v["grade"], "analysis": v["material"]}
     return record(
         n, name=v["name"], components=[{"description": v["description"], "material": material}]
     )
@@ -184,27 +185,45 @@ def plain(n, v):
     return record(n, **v)
 
 
-# section of the document, where its records stand in the model, and how one is written; in
-# document order
+# section of the document, where the records of a frame stand in the model, and how one is written;
+# in document order. What is no matter of the frame solver stands in the model's "plain" records by
+# section, as the document has it.
 SECTIONS = (
-    ("nodes", lambda m: m["nodes"], node),
-    ("elements", lambda m: m["elements"], element),
-    ("members", lambda m: m["members"], member),
-    ("axes", lambda m: m["axes"], axis),
-    ("sections", lambda m: m["sections"], section),
+    ("nodes", lambda m: m.get("nodes", {}), node),
+    ("elements", lambda m: m.get("elements", {}), element),
+    ("members", lambda m: m.get("members", {}), member),
+    ("assemblies", None, plain),
+    ("axes", lambda m: m.get("axes", {}), axis),
+    ("grid_planes", None, plain),
+    ("sections", lambda m: m.get("sections", {}), section),
+    ("properties_2d", None, plain),
+    ("properties_3d", None, plain),
     (
         "spring_properties",
-        lambda m: m["springs"],
+        lambda m: m.get("springs", {}),
         lambda n, v: record(n, name=v["name"], stiffness=list(v["stiffness"])),
     ),
-    ("mass_properties", lambda m: m["masses"], mass),
-    ("materials", lambda m: m["materials"], lambda n, v: record(n, **elastic(v))),
-    ("steel_grades", lambda m: m["steel_grades"], grade),
-    ("lists", lambda m: m["lists"], saved_list),
-    ("load_cases", lambda m: m["load_cases"], lambda n, v: record(n, name=v)),
-    ("analysis_tasks", lambda m: m["tasks"], task),
-    ("analysis_cases", lambda m: m["cases"], plain),
-    ("combination_cases", lambda m: m["combinations"], plain),
+    ("damper_properties", None, plain),
+    ("mass_properties", lambda m: m.get("masses", {}), mass),
+    ("cable_properties", None, plain),
+    ("link_properties", None, plain),
+    ("materials", lambda m: m.get("materials", {}), lambda n, v: record(n, **elastic(v))),
+    ("concrete_grades", None, plain),
+    ("steel_grades", lambda m: m.get("steel_grades", {}), grade),
+    ("frp_grades", None, plain),
+    ("aluminium_grades", None, plain),
+    ("glass_grades", None, plain),
+    ("timber_grades", None, plain),
+    ("fabric_grades", None, plain),
+    ("rebar_grades", None, plain),
+    ("material_curves", None, plain),
+    ("load_curves", None, plain),
+    ("lists", lambda m: m.get("lists", {}), saved_list),
+    ("load_cases", lambda m: m.get("load_cases", {}), lambda n, v: record(n, name=v)),
+    ("analysis_tasks", lambda m: m.get("tasks", {}), task),
+    ("analysis_cases", lambda m: m.get("cases", {}), plain),
+    ("combination_cases", lambda m: m.get("combinations", {}), plain),
+    ("stages", None, plain),
     ("node_loads", lambda m: numbered(m, "node"), node_load),
     ("settlements", lambda m: numbered(m, "settlement"), node_load),
     ("applied_displacements", lambda m: numbered(m, "displacement"), node_load),
@@ -212,8 +231,35 @@ SECTIONS = (
     ("beam_distortions", lambda m: numbered(m, "distortion"), distortion),
     ("axial_loads", lambda m: numbered(m, "axial"), axial_load),
     ("beam_thermal_loads", lambda m: numbered(m, "thermal"), thermal_load),
+    ("face_loads", None, plain),
+    ("edge_loads", None, plain),
+    ("in_plane_loads", None, plain),
+    ("face_thermal_loads", None, plain),
     ("gravity_loads", lambda m: numbered(m, "gravity"), gravity_load),
+    ("rigid_constraints", None, plain),
+    ("joints", None, plain),
+    ("constraint_equations", None, plain),
+    ("tied_interfaces", None, plain),
+    ("soil_profiles", None, plain),
+    ("soil_zones", None, plain),
+    ("soil_curves", None, plain),
+    ("pile_soil_properties", None, plain),
+    ("pile_soil_curves", None, plain),
+    ("soil_loads", None, plain),
+    ("views", None, plain),
 )
+HEADS = ("location", "currency", "design_codes", "units", "settings", "history")
+
+
+def section_records(model, key, records, write):
+    """The records of a section in the order of their numbers."""
+    out = {n: write(n, v) for n, v in records(model).items()} if records else {}
+    extra = model.get("plain", {}).get(key, {})
+    if set(out) & set(extra):
+        raise ValueError(f"{key}: numbers used twice")
+    out |= {n: plain(n, v) for n, v in extra.items()}
+    return [out[n] for n in (sorted(out) if extra else out)]
+
 
 # table of results, where it stands in the results of a case, and its keys
 TABLES = (
@@ -244,7 +290,7 @@ GLOBAL = (
 
 def numbered(model, kind):
     """The loads of a kind, numbered from 1."""
-    return dict(enumerate(model["loads"].get(kind, ()), 1))
+    return dict(enumerate(model.get("loads", {}).get(kind, ()), 1))
 
 
 def clean(values, noise=0.0):
@@ -296,6 +342,10 @@ def case_text(number, results):
         if results.get(name):
             rows = table_rows(results[name], figures, results)
             parts.append(f'"{key}": {lines(one_line(row) for row in rows)}')
+    for key, rows in results.get("tables", {}).items():
+        limit = NOISE * max(np.abs(row).max() for row in rows.values())
+        rows = ([n] + clean(np.ravel(row), limit).tolist() for n, row in rows.items())
+        parts.append(f'"{key}": {lines(one_line(row) for row in rows)}')
     return ",\n".join(parts) + "}"
 
 
@@ -303,16 +353,18 @@ def document_text(sample):
     """The whole document."""
     model, results = sample["model"], sample["results"]
     parts = ['"version": 1', f'"titles": {one_line(model["titles"])}']
-    for key in ("location", "currency"):
-        if key in model:
-            parts.append(f'"{key}": {one_line(model[key])}')
-    parts.append(f'"design_codes": {one_line({"steel": model["steel_code"]})}')
+    heads = {"design_codes": {"steel": model["steel_code"]} if "steel_code" in model else None}
+    for key in HEADS:
+        value = model.get(key, heads.get(key))
+        if value is not None:
+            parts.append(f'"{key}": {one_line(value)}')
     for key, records, write in SECTIONS:
-        if records(model):
-            parts.append(
-                f'"{key}": {lines(one_line(write(n, v)) for n, v in records(model).items())}'
-            )
-    parts.append(f'"results": {lines(case_text(n, r) for n, r in results.items())}')
+        rows = section_records(model, key, records, write)
+        if rows:
+            parts.append(f'"{key}": {lines(one_line(row) for row in rows)}')
+    if results:
+        texts = lines(case_text(n, r) for n, r in results.items())
+        parts.append(f'"results": {texts}')
     return "{\n" + ",\n".join(parts) + "\n}\n"
 
 

@@ -9,6 +9,8 @@ the angle is applied after it.
 """
 import numpy as np
 
+from ties import ties
+
 DIRECTIONS = ("X", "Y", "Z", "XX", "YY", "ZZ")
 AXIAL_ONLY = ("BAR", "ROD", "TIE", "STRUT")
 VERTICAL_LIMIT = 1e-3
@@ -163,6 +165,25 @@ class Beam:
         return self.material["density"] * self.section["A"] * self.length
 
 
+class Spring:
+    """A spring between two nodes at the same place, with six stiffnesses in global axes."""
+
+    def __init__(self, number, element, model):
+        self.number = number
+        self.nodes = tuple(element["nodes"])
+        first, second = (model["nodes"][n]["position"] for n in self.nodes)
+        if not np.allclose(first, second, rtol=0.0, atol=1e-9):
+            raise ValueError(f"spring {number} has a length: its shear would not balance")
+        self.values = np.array(model["springs"][element["section"]]["stiffness"], dtype=float)
+
+    def nodal_stiffness(self):
+        return np.kron(((1.0, -1.0), (-1.0, 1.0)), np.diag(self.values))
+
+    def force(self, nodal):
+        """Force and moment in the spring, tension positive."""
+        return self.values * (nodal[6:] - nodal[:6])
+
+
 class Frame:
     """The assembled frame: freedoms, restraints, ground springs and stiffness, in the axes of the
     nodes."""
@@ -171,13 +192,16 @@ class Frame:
         self.model = model
         self.row = {n: 6 * k for k, n in enumerate(sorted(model["nodes"]))}
         self.size = 6 * len(self.row)
-        self.beams = {n: Beam(n, e, model) for n, e in sorted(model["elements"].items())}
+        parts = sorted(model["elements"].items())
+        self.beams = {n: Beam(n, e, model) for n, e in parts if e["type"] != "SPRING"}
+        self.springs = {n: Spring(n, e, model) for n, e in parts if e["type"] == "SPRING"}
         self.turn = np.eye(self.size)
         self.restrained = np.zeros(self.size, dtype=bool)
         self.ground = np.zeros(self.size)
         for number, node in model["nodes"].items():
             self._hold(number, node)
         self.stiffness = self._assemble()
+        self.tie = ties(self)
 
     def _hold(self, number, node):
         """Axes, restraints and ground springs of one node."""
@@ -192,7 +216,7 @@ class Frame:
 
     def _assemble(self):
         k = np.zeros((self.size, self.size))
-        for beam in self.beams.values():
+        for beam in (self.beams | self.springs).values():
             rows = self.rows(beam)
             k[np.ix_(rows, rows)] += beam.nodal_stiffness()
         return self.turn @ k @ self.turn.T
@@ -209,5 +233,9 @@ class Frame:
 
     def idle(self):
         """Freedoms that nothing stiffens (rotations where only bars meet); they are held."""
-        diagonal = np.diag(self.stiffness) + self.ground
+        diagonal = np.diag(self.tied(self.stiffness + np.diag(self.ground)))
         return diagonal <= 1e-12 * diagonal.max()
+
+    def tied(self, matrix):
+        """A stiffness or mass matrix over the freedoms that follow no other."""
+        return self.tie.T @ matrix @ self.tie if self.model.get("ties") else matrix

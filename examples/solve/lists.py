@@ -1,4 +1,4 @@
-"""Lists of numbers as a person types them: "all", "1 3 5 to 9", "2 to 20 step 6"."""
+"""Lists of numbers as a person types them: "all", "none", "1 3 5 to 9", "2 to 20 step 6"."""
 
 
 def expand(text, existing):
@@ -6,6 +6,8 @@ def expand(text, existing):
     words = text.replace(",", " ").lower().split()
     if words == ["all"]:
         return sorted(existing)
+    if words == ["none"]:
+        return []
     chosen = set()
     while words:
         first = last = int(words.pop(0))

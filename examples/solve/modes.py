@@ -48,8 +48,8 @@ def rigid_motions(frame):
 def reduced_problem(frame):
     """Stiffness and mass of the freedoms with mass, and the matrix that gives all freedoms from
     them (nodal axes)."""
-    stiffness = frame.stiffness + np.diag(frame.ground)
-    mass = frame.turn @ mass_matrix(frame) @ frame.turn.T
+    stiffness = frame.tied(frame.stiffness + np.diag(frame.ground))
+    mass = frame.tied(frame.turn @ mass_matrix(frame) @ frame.turn.T)
     free = np.flatnonzero(~(frame.restrained | frame.idle()))
     factorise(frame, stiffness[np.ix_(free, free)], free)
     heavy = mass[free].any(axis=1)
@@ -61,7 +61,7 @@ def reduced_problem(frame):
             stiffness[np.ix_(light, light)], stiffness[np.ix_(light, kept)]
         )
     condensed = expand.T @ stiffness @ expand
-    return (condensed + condensed.T) / 2, mass[np.ix_(kept, kept)], expand, kept
+    return (condensed + condensed.T) / 2, mass[np.ix_(kept, kept)], frame.tie @ expand
 
 
 def eigenpairs(stiffness, mass):
@@ -75,12 +75,12 @@ def eigenpairs(stiffness, mass):
 
 def solve_modes(frame, count):
     """The first `count` modes, as plain lists and dicts."""
-    stiffness, mass, expand, kept = reduced_problem(frame)
+    stiffness, mass, expand = reduced_problem(frame)
     values, shapes = eigenpairs(stiffness, mass)
     if count > len(values):
         raise ValueError(f"{count} modes asked for, the frame has {len(values)} freedoms with mass")
-    rigid = (frame.turn @ rigid_motions(frame))[kept]
-    return [mode_results(frame, values[k], shapes[:, k], mass, expand, rigid) for k in range(count)]
+    pull = mass_matrix(frame) @ rigid_motions(frame)
+    return [mode_results(frame, values[k], shapes[:, k], mass, expand, pull) for k in range(count)]
 
 
 def largest_component(shape):
@@ -97,12 +97,12 @@ def largest_component(shape):
     return np.copysign(largest, values[np.argmax(np.abs(values) >= (1 - 1e-6) * largest)])
 
 
-def mode_results(frame, value, shape, mass, expand, rigid):
+def mode_results(frame, value, shape, mass, expand, pull):
     full = frame.turn.T @ expand @ shape
     largest = largest_component(full)
     shape, full = shape / largest, full / largest
     modal_mass = float(shape @ mass @ shape)
-    effective = (shape @ mass @ rigid) ** 2 / modal_mass
+    effective = (full @ pull) ** 2 / modal_mass
     everywhere = np.ones(frame.size, dtype=bool)
     return {
         "frequency": math.sqrt(value) / (2 * math.pi),

@@ -33,7 +33,8 @@ def factorise(frame, matrix, free):
 def displacements(frame, nodal, prescribed):
     """Displacements in the axes of the nodes under nodal forces, with some freedoms prescribed, the
     supports held."""
-    stiffness = frame.stiffness + np.diag(frame.ground)
+    stiffness = frame.tied(frame.stiffness + np.diag(frame.ground))
+    nodal = frame.tie.T @ nodal
     u = np.zeros(frame.size)
     held = frame.restrained | frame.idle()
     for row, value in prescribed.items():
@@ -41,11 +42,11 @@ def displacements(frame, nodal, prescribed):
         u[row] = value
     free = np.flatnonzero(~held)
     if not len(free):
-        return u
+        return frame.tie @ u
     factor = factorise(frame, stiffness[np.ix_(free, free)], free)
     right = nodal[free] - stiffness[free] @ u
     u[free] = np.linalg.solve(factor.T, np.linalg.solve(factor, right))
-    return u
+    return frame.tie @ u
 
 
 def end_forces(beam, ends, fixed_end):
@@ -117,6 +118,9 @@ def solve_static(frame, factors):
         "spring": vectors(frame, frame.ground > 0, "force", "moment", parts["spring"]),
         "elements": element_results(frame, u_global, loads.fixed),
     }
+    if frame.springs:
+        forces = {n: s.force(u_global[frame.rows(s)]) for n, s in frame.springs.items()}
+        result["tables"] = {"spring_force": {n: np.tile(f, 2) for n, f in forces.items()}}
     # what rounding may leave of forces that cancel
     products = np.abs(frame.stiffness) @ np.abs(u)
     result["force_noise"] = float(64 * np.finfo(float).eps * products.max())
