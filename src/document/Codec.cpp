@@ -59,11 +59,8 @@ void Codec<CEntList>::Read(const Json& json, CEntList& value) {
     } else {
         Refuse("a list such as \"1 to 5\"");
     }
-    CEntList list(text, kind);
-    if (!list.IsValid()) {
-        throw FieldError("\"" + Text::ToUtf8(text) + "\" can't be read as a list");
-    }
-    value = std::move(list);
+    // A text that can't be read selects nothing, but the model keeps it.
+    value = CEntList(text, kind);
 }
 
 Json Codec<CEntList>::Schema() {
@@ -78,17 +75,13 @@ Json Codec<CEntList>::Schema() {
 void Codec<CCaseDesc>::Read(const Json& json, CCaseDesc& value) {
     std::wstring text;
     Codec<std::wstring>::Read(json, text);
-    if (!value.SetDescription(text)) {
-        Refuse(Expected());
-    }
+    value.SetDescription(text);  // as for lists
 }
 
 void Codec<CCombCaseDesc>::Read(const Json& json, CCombCaseDesc& value) {
     std::wstring text;
     Codec<std::wstring>::Read(json, text);
-    if (!value.SetDescription(text)) {
-        Refuse(Expected());
-    }
+    value.SetDescription(text);
 }
 
 Json Codec<Colour>::Write(Colour colour) {

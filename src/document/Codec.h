@@ -67,6 +67,11 @@ struct EnumName {
 template <class E>
 const std::vector<EnumName>& NamesOf();
 
+/// Enumerations some of whose codes the host has set aside without a name: those stand as numbers.
+template <class E>
+inline constexpr bool kHasReservedCodes =
+    std::is_same_v<E, ElementType> || std::is_same_v<E, MatModel>;
+
 // Enumerations with names; the tables stand in EnumNames.cpp.
 #define VYN_DECLARE_NAMES(E) \
     template <>              \
@@ -181,6 +186,9 @@ struct Codec<E, std::enable_if_t<std::is_enum_v<E>>> {
                 return entry.name;
             }
         }
+        if constexpr (kHasReservedCodes<E>) {
+            return static_cast<int>(value);
+        }
         throw FieldError("the code " + std::to_string(static_cast<int>(value)) + " has no name");
     }
     static void Read(const Json& json, E& value) {
@@ -192,12 +200,23 @@ struct Codec<E, std::enable_if_t<std::is_enum_v<E>>> {
                 }
             }
         }
+        if constexpr (kHasReservedCodes<E>) {
+            if (json.is_number_integer()) {
+                int code = 0;
+                Codec<int>::Read(json, code);
+                value = static_cast<E>(code);
+                return;
+            }
+        }
         Refuse(Expected());
     }
     static Json Schema() {
         Json names = Json::array();
         for (const EnumName& entry : NamesOf<E>()) {
             names.push_back(entry.name);
+        }
+        if constexpr (kHasReservedCodes<E>) {
+            return {{"anyOf", {{{"enum", names}}, {{"type", "integer"}}}}};
         }
         return {{"enum", names}};
     }

@@ -164,7 +164,10 @@ bool SaxReader::parse_error(std::size_t /*position*/, const std::string& /*token
     // The library's text begins with a tag of its own, as "[json.exception.parse_error.101] ".
     const std::string text = failure.what();
     const std::size_t tag = text.find("] ");
-    return Fail(tag == std::string::npos ? text : text.substr(tag + 2));
+    const std::string reason = tag == std::string::npos ? text : text.substr(tag + 2);
+    // Broken text has its line; a number out of range has no place but that of the record.
+    const bool hasPlace = reason.starts_with("parse error") || m_rootKey.empty();
+    return Fail(hasPlace ? reason : Path() + ": " + reason);
 }
 
 bool SaxReader::Value(Json value) {

@@ -40,7 +40,9 @@ public:
 private:
     static constexpr std::size_t kChunk = std::size_t{1} << 18;
     void Hand() {
-        m_output.write(m_text.data(), static_cast<std::streamsize>(m_text.size()));
+        if (m_output.good()) {
+            m_output.write(m_text.data(), static_cast<std::streamsize>(m_text.size()));
+        }
         m_text.clear();
     }
 

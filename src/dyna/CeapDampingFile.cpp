@@ -40,17 +40,15 @@ double OrZero(double value) {
 
 }  // namespace
 
-std::vector<int> CCeapDampingFile::IncludedNodes() const {
+std::vector<int> CCeapDampingFile::IncludedNodes(const CVynData& model) const {
     std::vector<int> nodes;
-    Util::Item(m_nodeList, *m_model, m_model->HighestNode(), true).ForEach([&nodes](int node) {
-        nodes.push_back(node);
-    });
+    Util::Items(m_nodeList, nodes, model);
     return nodes;
 }
 
-int CCeapDampingFile::ModalTask() const {
-    for (const int number : m_model->AnalysisTaskTable().Numbers()) {
-        const CAnalysisTask& task = m_model->AnalysisTask(number);
+int CCeapDampingFile::ModalTask(const CVynData& model) {
+    for (const int number : model.AnalysisTaskTable().Numbers()) {
+        const CAnalysisTask& task = model.AnalysisTask(number);
         if (task.IsAnalysed() && task.IsModal()) {
             return number;
         }
@@ -58,36 +56,45 @@ int CCeapDampingFile::ModalTask() const {
     return 0;
 }
 
-std::vector<SCaseRef> CCeapDampingFile::QualifyingModes(int task) const {
-    const CBitSet included = Util::Item(m_modeList, *m_model, -1, false);
+std::vector<SCaseRef> CCeapDampingFile::IncludedModes(const CVynData& model) const {
+    const int task = ModalTask(model);
+    const CBitSet included = Util::Item(m_modeList, model, -1, false);
     std::vector<SCaseRef> modes;
-    for (const int number : m_model->AnalysisCaseTable().Numbers()) {
+    for (const int number : model.AnalysisCaseTable().Numbers()) {
         const SCaseRef ref = AnalysisRef(number);
-        if (m_model->AnalysisCase(number).Task() == task && included.Test(m_model->Mode(ref))) {
+        if (task != 0 && model.AnalysisCase(number).Task() == task &&
+            included.Test(model.Mode(ref))) {
             modes.push_back(ref);
         }
     }
     return modes;
 }
 
-void CCeapDampingFile::WriteModes(TextOut& out, const std::vector<SCaseRef>& modes) const {
+void CCeapDampingFile::WriteModes(TextOut& out, const std::vector<SCaseRef>& modes) {
+    int incomplete = 0;
     out.Append("$      Frequency      Modal Mass         Damping\n");
     for (const SCaseRef& mode : modes) {
-        out.Padded(m_model->Frequency(mode), kValueWidth);
-        out.Padded(m_model->ModalMass(mode), kValueWidth);
-        out.Padded(m_damping, kValueWidth);
-        out.EndLine();
+        const double frequency = m_model->Frequency(mode);
+        const double mass = m_model->ModalMass(mode);
+        incomplete += std::isfinite(frequency) && std::isfinite(mass) ? 0 : 1;
+        out.Padded(frequency, kValueWidth).Padded(mass, kValueWidth);
+        out.Padded(m_damping, kValueWidth).EndLine();
+    }
+    if (incomplete > 0) {
+        AddNote(L"Modes without frequency or modal mass: " + std::to_wstring(incomplete));
     }
 }
 
 void CCeapDampingFile::WriteShapes(TextOut& out, const std::vector<int>& nodes,
-                                   const std::vector<SCaseRef>& modes) const {
+                                   const std::vector<SCaseRef>& modes) {
     constexpr std::array<std::string_view, 3> kDirectionLines{"$ x\n", "$ y\n", "$ z\n"};
     std::vector<Vec3<double>> shape(modes.size());
+    long missing = 0;
     for (const int node : nodes) {
         out.Append("$ ").Int(node).EndLine();
         for (std::size_t i = 0; i < modes.size(); ++i) {
             shape[i] = m_model->Disp(node, modes[i]);
+            missing += std::isnan(shape[i].x) ? 1 : 0;
         }
         for (int direction = 0; direction < 3; ++direction) {
             out.Append(kDirectionLines[static_cast<std::size_t>(direction)]);
@@ -96,15 +103,18 @@ void CCeapDampingFile::WriteShapes(TextOut& out, const std::vector<int>& nodes,
             });
         }
     }
+    if (missing > 0) {
+        AddNote(L"Displacements of nodes that the results do not have, written as 0: " +
+                std::to_wstring(missing));
+    }
 }
 
 bool CCeapDampingFile::Write() {
-    if (m_model == nullptr) {
+    if (!IsReady()) {
         return false;
     }
-    const std::vector<int> nodes = IncludedNodes();
-    const int task = ModalTask();
-    const std::vector<SCaseRef> modes = task != 0 ? QualifyingModes(task) : std::vector<SCaseRef>();
+    const std::vector<int> nodes = IncludedNodes(*m_model);
+    const std::vector<SCaseRef> modes = IncludedModes(*m_model);
     if (nodes.empty() || modes.empty()) {
         return false;
     }

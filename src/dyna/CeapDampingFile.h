@@ -32,13 +32,16 @@ public:
 
     bool Write() override;
 
+    /// The modal task whose modes are written, 0 when the model has none.
+    static int ModalTask(const CVynData& model);
+    /// The nodes, and the analysis cases of the modes, that the lists include of a model.
+    std::vector<int> IncludedNodes(const CVynData& model) const;
+    std::vector<SCaseRef> IncludedModes(const CVynData& model) const;
+
 private:
-    std::vector<int> IncludedNodes() const;
-    int ModalTask() const;
-    std::vector<SCaseRef> QualifyingModes(int task) const;
-    void WriteModes(TextOut& out, const std::vector<SCaseRef>& modes) const;
+    void WriteModes(TextOut& out, const std::vector<SCaseRef>& modes);
     void WriteShapes(TextOut& out, const std::vector<int>& nodes,
-                     const std::vector<SCaseRef>& modes) const;
+                     const std::vector<SCaseRef>& modes);
 
     CEntList m_nodeList{L"all", SelType::Node};
     CEntList m_modeList{L"all", SelType::Mode};

@@ -54,6 +54,9 @@ public:
     const std::wstring& ErrorLog() const { return m_errorLog; }
 
 protected:
+    /// Whether there are a model and a stream: a writer that is called outside OpenWrite has none.
+    bool IsReady() const { return m_model != nullptr && m_stream != nullptr; }
+
     /// Adds a line to the error log: what went wrong, or what the format could not carry.
     void AddError(const std::wstring& text);
     void AddNote(const std::wstring& text);

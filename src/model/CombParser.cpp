@@ -131,7 +131,14 @@ private:
             term.to = last.value_or(0);
             return op == term.op && last.has_value();
         }
-        return term.op != CaseOp::Combination || TakeSuffix(term);
+        return TakeSuffix(term) && (term.op == CaseOp::Combination || IsCaseItself(term));
+    }
+
+    /// The one permutation of an analysis case, and its envelopes, are the case.
+    static bool IsCaseItself(CombTerm& term) {
+        const bool fits = term.permutation <= 1;
+        term.permutation = 0;
+        return fits;
     }
 
     bool TakeSuffix(CombTerm& term) {

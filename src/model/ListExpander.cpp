@@ -188,11 +188,7 @@ private:
         if (term.kind == ListTermKind::Group) {
             return member.Group();
         }
-        return PropertyOf(member,
-                          member.Is1D()   ? PropertyType::Section
-                          : member.Is2D() ? PropertyType::Prop2D
-                                          : PropertyType::Prop3D,
-                          term);
+        return PropertyOf(member, member.PropertyKind(), term);
     }
     template <class Record>
     static std::optional<int> PropertyOf(const Record& record, PropertyType kind,

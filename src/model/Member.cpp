@@ -18,4 +18,14 @@ bool CMember::Is2D() const {
            m_type == MemberType::Generic2D || m_type == MemberType::VoidCutter;
 }
 
+PropertyType CMember::PropertyKind() const {
+    if (Is1D()) {
+        return InfoOf(m_analysisType1D).property;
+    }
+    if (Is3D()) {
+        return PropertyType::Prop3D;
+    }
+    return Is2D() && m_type != MemberType::VoidCutter ? PropertyType::Prop2D : PropertyType::None;
+}
+
 }  // namespace Tevra::Data

@@ -53,8 +53,17 @@ public:
     bool Is1D() const;
     bool Is2D() const;
     bool Is3D() const { return m_type == MemberType::Generic3D; }
-    bool IsBeam() const { return Is1D() && m_analysisType1D == ElementType::Beam; }
-    bool IsSection() const { return Is1D(); }
+    /// The kind of property that the member has, by the elements that it is meshed into.
+    PropertyType PropertyKind() const;
+    /// True for 1D members whose elements have a section.
+    bool IsSection() const { return PropertyKind() == PropertyType::Section; }
+    bool IsBeam() const { return IsMeshedAs(ElementType::Beam); }
+    bool IsSpring() const { return IsMeshedAs(ElementType::Spring); }
+    bool IsDamper() const { return IsMeshedAs(ElementType::Damper); }
+    bool IsLink() const { return IsMeshedAs(ElementType::Link); }
+    bool IsCable() const { return IsMeshedAs(ElementType::Cable); }
+    bool IsSpacer() const { return IsMeshedAs(ElementType::Spacer); }
+    bool IsTie() const { return IsMeshedAs(ElementType::Tie); }
     bool IsOffset() const { return !m_offset.IsNone(); }
     bool IsDummy() const { return m_dummy; }
 
@@ -74,6 +83,8 @@ public:
     bool operator==(const CMember&) const = default;
 
 private:
+    bool IsMeshedAs(ElementType type) const { return Is1D() && m_analysisType1D == type; }
+
     MemberType m_type = MemberType::None;
     int m_property = 0;
     int m_group = 0;

@@ -1,94 +1,14 @@
 #include "model/References.h"
 
-#include <cwchar>
+#include <type_traits>
+
+#include "model/ReferenceFinder.h"
 
 namespace Tevra::Util {
 
 namespace {
 
 using namespace Data;
-
-/// Gathers findings about one record after the other.
-class Finder {
-public:
-    Finder(const CVynData& model, std::size_t most) : m_model(model), m_most(most) {}
-
-    /// Names the record that the following questions are about.
-    void About(const wchar_t* kind, int number) {
-        m_kind = kind;
-        m_number = number;
-    }
-    void Say(const std::wstring& what) {
-        ++m_report.total;
-        if (m_report.findings.size() < m_most) {
-            m_report.findings.push_back(std::wstring(m_kind) + L" " + std::to_wstring(m_number) +
-                                        L": " + what);
-        }
-    }
-    /// Reports a number that is not 0 and has no record in the table.
-    template <class Record>
-    void Need(const NumberedTable<Record>& table, const wchar_t* kind, int number) {
-        if (number != 0 && !table.Exist(number)) {
-            Say(std::wstring(kind) + L" " + std::to_wstring(number) + L" does not exist");
-        }
-    }
-    void Node(int number) { Need(m_model.NodeTable(), L"node", number); }
-    void Axis(int number) {
-        if (number != kLocalAxis) {
-            Need(m_model.AxisTable(), L"axis", number);
-        }
-    }
-    void Material(int number) { Need(m_model.MatAnalTable(), L"analysis material", number); }
-    void Material(const MaterialChoice& choice) {
-        Material(choice.analysis);
-        if (const auto* grades = m_model.DesignTable(choice.type)) {
-            Need(*grades, L"design grade", choice.grade);
-        }
-    }
-    void Property(PropertyType kind, int number);
-
-    const CVynData& Model() const { return m_model; }
-    ReferenceReport Take() { return std::move(m_report); }
-
-private:
-    const CVynData& m_model;
-    std::size_t m_most;
-    const wchar_t* m_kind = L"";
-    int m_number = 0;
-    ReferenceReport m_report;
-};
-
-void Finder::Property(PropertyType kind, int number) {
-    switch (kind) {
-        case PropertyType::Section:
-            return Need(m_model.SectionTable(), L"section", number);
-        case PropertyType::Prop2D:
-            return Need(m_model.Prop2DTable(), L"2D property", number);
-        case PropertyType::Prop3D:
-            return Need(m_model.Prop3DTable(), L"3D property", number);
-        case PropertyType::Spring:
-            return Need(m_model.SpringPropTable(), L"spring property", number);
-        case PropertyType::Damper:
-            return Need(m_model.DamperPropTable(), L"damper property", number);
-        case PropertyType::Mass:
-            return Need(m_model.MassPropTable(), L"mass property", number);
-        case PropertyType::Cable:
-            return Need(m_model.CablePropTable(), L"cable property", number);
-        case PropertyType::Link:
-            return Need(m_model.LinkPropTable(), L"link property", number);
-        case PropertyType::None:
-            return;
-    }
-}
-
-/// Calls `look(finder, record)` for every record of a table.
-template <class Record, class Look>
-void ForEach(Finder& finder, const NumberedTable<Record>& table, const wchar_t* kind, Look look) {
-    for (const int number : table.Numbers()) {
-        finder.About(kind, number);
-        look(*table.Find(number));
-    }
-}
 
 void LookAtNodes(Finder& f) {
     ForEach(f, f.Model().NodeTable(), L"node", [&f](const CNode& node) {
@@ -119,17 +39,16 @@ void LookAtElements(Finder& f) {
 
 void LookAtMembers(Finder& f) {
     ForEach(f, f.Model().MemberTable(), L"member", [&f](const CMember& member) {
-        f.Property(member.Is1D()   ? PropertyType::Section
-                   : member.Is2D() ? PropertyType::Prop2D
-                   : member.Is3D() ? PropertyType::Prop3D
-                                   : PropertyType::None,
-                   member.Property());
+        f.Property(member.PropertyKind(), member.Property());
         f.Node(member.OrientationNode());
+        f.NodesOf(member.Topology());
     });
     ForEach(f, f.Model().AssemblyTable(), L"assembly", [&f](const CAssembly& assembly) {
         for (int k = 1; k <= 3; ++k) {
             f.Node(assembly.Topo(k));
         }
+        f.List(assembly.Internal());
+        f.List(assembly.Storeys());
     });
     ForEach(f, f.Model().GridPlaneTable(), L"grid plane",
             [&f](const CGridPlane& plane) { f.Axis(plane.Axis()); });
@@ -170,26 +89,57 @@ void LookAtProperties(Finder& f) {
     });
 }
 
+void LookAtDynamics(Finder& f, const CDynaTask& dyna) {
+    const auto& curves = f.Model().LoadCurveTable();
+    f.Need(curves, L"load curve", dyna.LoadCurve());
+    for (const int curve : dyna.ExcitationNumbers()) {
+        f.Need(curves, L"load curve", curve);
+    }
+    f.LoadCase(dyna.Mass().loadCase);
+    f.List(dyna.NodeSelection());
+    f.List(dyna.ElementSelection());
+    f.List(dyna.AssemblyList());
+    f.List(dyna.BaseList());
+}
+
+void LookAtStages(Finder& f) {
+    ForEach(f, f.Model().StageTable(), L"stage", [&f](const CStage& stage) {
+        f.List(stage.Elements());
+        for (const StageReplacement& replacement : stage.Replacements()) {
+            f.Property(replacement.kind, replacement.from);
+            f.Property(replacement.kind, replacement.property);
+            f.Material(replacement.material);
+        }
+        for (const StageRestraint& restraint : stage.Restraints()) {
+            f.List(restraint.nodes);
+        }
+    });
+}
+
+void LookAtSelections(Finder& f) {
+    ForEach(f, f.Model().ListTable(), L"list",
+            [&f](const CList& list) { f.List(list.Definition()); });
+    ForEach(f, f.Model().ViewTable(), L"view", [&f](const COpView& view) {
+        f.List(view.Nodes());
+        f.List(view.Elements());
+        f.List(view.Members());
+        f.List(view.Cases());
+    });
+}
+
 void LookAtCases(Finder& f) {
     const CVynData& model = f.Model();
+    f.About(L"mass case", 1);
+    f.Description(model.MassCase());
     ForEach(f, model.AnalysisTaskTable(), L"analysis task", [&](const CAnalysisTask& task) {
         f.Need(model.StageTable(), L"stage", task.Stage() < 0 ? 0 : task.Stage());
         if (const CDynaTask* dyna = task.Dyna()) {
-            f.Need(model.LoadCurveTable(), L"load curve", dyna->LoadCurve());
-            for (const int curve : dyna->ExcitationNumbers()) {
-                f.Need(model.LoadCurveTable(), L"load curve", curve);
-            }
+            LookAtDynamics(f, *dyna);
         }
     });
     ForEach(f, model.AnalysisCaseTable(), L"analysis case", [&](const CAnalysisCase& record) {
         f.Need(model.AnalysisTaskTable(), L"analysis task", record.Task());
-        for (const CaseDescPart& part : record.Desc().Parts()) {
-            for (const CaseDescPart::Load& load : part.loads) {
-                if (!model.LoadCaseExist(load.loadCase)) {
-                    f.Say(L"load case " + std::to_wstring(load.loadCase) + L" does not exist");
-                }
-            }
-        }
+        f.Description(record.Desc());
     });
     ForEach(f, model.CombinationCaseTable(), L"combination case",
             [&](const CCombinationCase& record) {
@@ -201,8 +151,14 @@ void LookAtCases(Finder& f) {
 
 void LookAtConstraints(Finder& f) {
     const CVynData& model = f.Model();
-    ForEach(f, model.RigidTable(), L"rigid constraint",
-            [&f](const CRigid& rigid) { f.Node(rigid.PrimaryNode()); });
+    ForEach(f, model.RigidTable(), L"rigid constraint", [&f](const CRigid& rigid) {
+        f.Node(rigid.PrimaryNode());
+        f.List(rigid.Nodes());
+    });
+    ForEach(f, model.TiedInterfaceTable(), L"tied interface", [&f](const CTiedInterface& tied) {
+        f.List(tied.Slave());
+        f.List(tied.Master());
+    });
     ForEach(f, model.JointTable(), L"joint", [&f](const CJoint& joint) {
         f.Node(joint.Node(1));
         f.Node(joint.Node(2));
@@ -217,19 +173,29 @@ void LookAtConstraints(Finder& f) {
 }
 
 template <class Load>
-void LookAtAxes(Finder& f, const NumberedTable<Load>& loads, const wchar_t* kind) {
-    ForEach(f, loads, kind, [&f](const Load& load) { f.Axis(load.Axis()); });
+void LookAtLoads(Finder& f, const NumberedTable<Load>& loads, const wchar_t* kind) {
+    ForEach(f, loads, kind, [&f](const Load& load) {
+        f.List(load.LoadedEntities());
+        if constexpr (std::is_base_of_v<CDirectedLoad, Load>) {
+            f.Axis(load.Axis());
+        }
+    });
 }
 
 void LookAtLoads(Finder& f) {
     const CVynData& model = f.Model();
-    LookAtAxes(f, model.NodeLoadTable(), L"node load");
-    LookAtAxes(f, model.SettlementTable(), L"settlement");
-    LookAtAxes(f, model.AppliedDisplacementTable(), L"applied displacement");
-    LookAtAxes(f, model.BeamLoadTable(), L"beam load");
-    LookAtAxes(f, model.BeamDistTable(), L"beam distortion");
-    LookAtAxes(f, model.FaceLoadTable(), L"face load");
-    LookAtAxes(f, model.EdgeLoadTable(), L"edge load");
+    LookAtLoads(f, model.NodeLoadTable(), L"node load");
+    LookAtLoads(f, model.SettlementTable(), L"settlement");
+    LookAtLoads(f, model.AppliedDisplacementTable(), L"applied displacement");
+    LookAtLoads(f, model.BeamLoadTable(), L"beam load");
+    LookAtLoads(f, model.BeamDistTable(), L"beam distortion");
+    LookAtLoads(f, model.FaceLoadTable(), L"face load");
+    LookAtLoads(f, model.EdgeLoadTable(), L"edge load");
+    LookAtLoads(f, model.AxialLoadTable(), L"axial load");
+    LookAtLoads(f, model.BeamThermalLoadTable(), L"beam thermal load");
+    LookAtLoads(f, model.InPlaneLoadTable(), L"in-plane load");
+    LookAtLoads(f, model.FaceThermalLoadTable(), L"face thermal load");
+    LookAtLoads(f, model.GravityLoadTable(), L"gravity load");
 }
 
 void LookAtSoil(Finder& f) {
@@ -277,12 +243,15 @@ void LookAtResults(Finder& f) {
 
 }  // namespace
 
-ReferenceReport FindDanglingReferences(const CVynData& model, std::size_t most) {
-    Finder finder(model, most);
+ReferenceReport FindDanglingReferences(const CVynData& model, ReferenceScope scope,
+                                       std::size_t most) {
+    Finder finder(model, scope, most);
     LookAtNodes(finder);
     LookAtElements(finder);
     LookAtMembers(finder);
     LookAtProperties(finder);
+    LookAtStages(finder);
+    LookAtSelections(finder);
     LookAtCases(finder);
     LookAtConstraints(finder);
     LookAtLoads(finder);

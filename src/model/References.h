@@ -13,9 +13,16 @@ struct ReferenceReport {
     long total = 0;
 };
 
-/// Looks at every number in a model that refers to another record (nodes of elements, properties,
-/// axes, materials, curves, cases, results) and reports those whose record does not exist, and
-/// descriptions of combinations that can't be resolved. Keeps the first `most` findings.
-ReferenceReport FindDanglingReferences(const CVynData& model, std::size_t most = 20);
+/// Which references are looked at: all, or all but those to properties, for models that come from a
+/// source without them.
+enum class ReferenceScope { All, NoProperties };
+
+/// Looks at the numbers in a model that refer to another record (nodes of elements and members,
+/// properties, axes, materials, curves, cases, stages, saved lists, results) and reports those
+/// whose record does not exist, and lists and case descriptions that can't be read or resolved.
+/// Keeps the first `most` findings.
+ReferenceReport FindDanglingReferences(const CVynData& model,
+                                       ReferenceScope scope = ReferenceScope::All,
+                                       std::size_t most = 20);
 
 }  // namespace Tevra::Util

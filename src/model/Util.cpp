@@ -36,6 +36,12 @@ CBitSet ExpandList(const CEntList& list, const CVynData& model, CaseOp caseOp, i
     return ExpandTerms(list.Terms()->terms, {model, list.TypeOf(), caseOp, bound, existingOnly});
 }
 
+/// Modes are those of the results, which change without a revision of the model: what lists of
+/// modes include is not kept.
+bool IsKept(const CEntList& list) {
+    return list.TypeOf() != SelType::Mode;
+}
+
 /// Both kinds of cases of a case list, the numbers of any other; kept with the list.
 const ListNumbers& Kept(const CEntList& list, const CVynData& model, int highest,
                         bool existingOnly) {
@@ -65,8 +71,11 @@ int NumItem(const CEntList& list, const CVynData& model, int highest, bool exist
 
 bool IsItemIncluded(const CEntList& list, const SEntRef& entity, const CVynData& model, int highest,
                     bool existingOnly) {
-    return entity.type == list.TypeOf() &&
-           Kept(list, model, highest, existingOnly).numbers.Test(entity.number);
+    if (entity.type != list.TypeOf()) {
+        return false;
+    }
+    return IsKept(list) ? Kept(list, model, highest, existingOnly).numbers.Test(entity.number)
+                        : Item(list, model, highest, existingOnly).Test(entity.number);
 }
 
 CaseSet Cases(const CEntList& list, const CVynData& model) {

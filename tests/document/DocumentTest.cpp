@@ -91,6 +91,23 @@ TEST(Document, TextsAndNumbersAtTheirLimitsComeBack) {
     EXPECT_NE(Written(model).find("#563412"), std::string::npos);  // red stands in the low bits
 }
 
+// What the host could not read either is kept as it stands.
+TEST(Document, TextsThatCanNotBeReadAndReservedCodesComeBack) {
+    CVynData model;
+    model.SetAnalysisCase(1, {L"", 0, L"bad junk"});
+    model.SetCombinationCase(1, {L"", L"A1 ++ B"});
+    model.SetCombinationCase(2, {L"", L""});
+    model.SetList(1, {L"", CEntList(L"1 to", SelType::Node)});
+    model.SetMassCase(CCaseDesc(L"nonsense"));
+    model.SetElem(1, Data::CElement(static_cast<ElementType>(13), {1, 2}, 3));
+    Data::CMatAnal material;
+    material.SetModel(static_cast<MatModel>(2));
+    model.SetMatAnal(1, material);
+    CVynData again;
+    ASSERT_EQ(Refusal(Written(model), again), "");
+    EXPECT_TRUE(again == model);
+}
+
 struct Broken {
     const char* document;
     const char* message;
@@ -135,10 +152,16 @@ TEST(Document, WhatIsWrongIsNamedWithItsPath) {
          "members[0].topology: expected a list of node numbers"},
         {R"({"version": 1, "members": [{"number": 1, "type": "beam", "topology": [1, -2]}]})",
          "members[0].topology: expected a list of node numbers"},
-        {R"({"version": 1, "lists": [{"number": 1, "definition": {"kind": "node", "list": "1 to"}}]})",
-         "lists[0].definition: \"1 to\" can't be read as a list"},
-        {R"({"version": 1, "analysis_cases": [{"number": 1, "description": "1.35"}]})",
-         "analysis_cases[0].description: expected a case description such as \"1.35L1 + 1.5L2\""},
+        {R"({"version": 1, "lists": [{"number": 1, "definition": {"kind": "node", "list": 1}}]})",
+         "lists[0].definition.list: expected a text"},
+        {R"({"version": 1, "analysis_cases": [{"number": 1, "description": 1.35}]})",
+         "analysis_cases[0].description: expected a text"},
+        {R"({"version": 1, "elements": [{"number": 1, "type": "bean", "nodes": [1, 2]}]})",
+         "elements[0].type: expected one of \"bar\", \"beam\", \"spring\", \"damper\", \"quad4\", "
+         "\"quad8\", \"tri3\", \"tri6\", \"link\", \"cable\", \"mass\", \"brick8\", \"wedge6\", "
+         "\"tetra4\", \"spacer\", \"tie\", \"strut\", \"rod\", \"pyramid5\""},
+        {R"({"version": 1, "nodes": [{"number": 1, "position": [1e999, 0, 0]}]})",
+         "nodes[0]: number overflow parsing '1e999'"},
         {R"({"version": 1, "results": [{"global": {}}]})",
          "results[0].global: the key \"case\" must come first"},
         {R"({"version": 1, "results": [{}]})", "results[0]: the key \"case\" is missing"},

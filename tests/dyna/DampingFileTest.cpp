@@ -100,7 +100,24 @@ TEST_F(DampingFile, WholeFile) {
     EXPECT_EQ(text,
               TestSupport::ReadFile(TestSupport::SourceDir() / "tests/golden/damping/gaps.txt"));
     EXPECT_TRUE(m_host.events.empty());
-    EXPECT_TRUE(m_writer.ErrorLog().empty());
+    EXPECT_EQ(
+        m_writer.ErrorLog(),
+        L"Note:           Displacements of nodes that the results do not have, written as 0: 4");
+}
+
+TEST_F(DampingFile, AWriterOutsideOpenWriteHasNoStream) {
+    CVynData model = ModelOf(1, 1);
+    m_writer.SetData(&model);
+    EXPECT_FALSE(m_writer.Write());
+}
+
+TEST_F(DampingFile, ModesWithoutFiguresAreNoted) {
+    CVynData model = ModelOf(1, 2);
+    model.EditResults().Edit(2).EditGlobal().frequency = std::numeric_limits<double>::quiet_NaN();
+    Write(model);
+    EXPECT_TRUE(m_written);
+    EXPECT_NE(m_writer.ErrorLog().find(L"Note:           Modes without frequency or modal mass: 1"),
+              std::wstring::npos);
 }
 
 TEST_F(DampingFile, TwentyNodesMakeTwoLinesAndNoEmptyOne) {

@@ -113,8 +113,8 @@ INSTANTIATE_TEST_SUITE_P(
         CombCase{L"-C2 signabs", false, {"C2/-4 -1.00"}},
         CombCase{L"1.35a1OR1.5a2", false, {"A1 1.35", "A2 1.50"}}, CombCase{L"A77", false, {}},
         CombCase{L"C77", false, {}}, CombCase{L"C4p3", false, {}}, CombCase{L"A1 +", false, {}},
-        CombCase{L"(A1", false, {}}, CombCase{L"A1min", false, {}}, CombCase{L"", false, {}},
-        CombCase{L"A1 to C3", false, {}}));
+        CombCase{L"(A1", false, {}}, CombCase{L"A1min", true, {"A1 1.00"}},
+        CombCase{L"A1p2", false, {}}, CombCase{L"", false, {}}, CombCase{L"A1 to C3", false, {}}));
 
 TEST(CombCaseDesc, FactorsOfAnalysisCases) {
     const CVynData model = Model({{2, L"A3 or A4"}, {6, L"2C2max + A5"}});

@@ -131,7 +131,10 @@ TEST_F(VynxTest, WhatCanNotBeDoneEndsWithAMessageAndLeavesNoFile) {
         {{"export", bridge, "--to", "damping", "-o", out, "--bogus"}, kUsage, "--bogus"},
         {{"export", bridge, "--to", "damping", "-o", out, "--damping", "x"},
          kUsage,
-         "--damping: expected a number, not \"x\""},
+         "--damping: expected a number not below 0, not \"x\""},
+        {{"export", bridge, "--to", "damping", "-o", out, "--damping", "-0.5"},
+         kUsage,
+         "--damping: expected a number not below 0"},
         {{"export", bridge, "--to", "damping", "-o", out, "--nodes", "1 to"},
          kUsage,
          "--nodes: expected a list"},
@@ -177,6 +180,49 @@ TEST_F(VynxTest, ALinkStaysALink) {
     ASSERT_EQ(Run({"export", Footbridge(), "--to", "damping", "-o", Path("link.txt")}), kDone);
     EXPECT_TRUE(fs::is_symlink(Path("link.txt")));
     EXPECT_EQ(Tevra::TestSupport::ReadFile(Path("target.txt")).substr(0, 2), "$\n");
+}
+
+TEST_F(VynxTest, ALinkToNothingMakesTheFile) {
+    fs::create_symlink("target.txt", Path("link.txt"));
+    ASSERT_EQ(Run({"export", Footbridge(), "--to", "damping", "-o", Path("link.txt")}), kDone)
+        << m_err;
+    EXPECT_TRUE(fs::is_symlink(Path("link.txt")));
+    EXPECT_TRUE(fs::is_regular_file(Path("target.txt")));
+}
+
+TEST_F(VynxTest, ALinkToADeviceIsWrittenDirectly) {
+    fs::create_symlink("/dev/null", Path("link.txt"));
+    EXPECT_EQ(Run({"export", Footbridge(), "--to", "damping", "-o", Path("link.txt")}), kDone)
+        << m_err;
+    EXPECT_EQ(Files(), Names{"link.txt"});
+}
+
+TEST_F(VynxTest, AFileKeepsItsPermissions) {
+    Write("private.txt", "old");
+    const auto own = fs::perms::owner_read | fs::perms::owner_write;
+    fs::permissions(Path("private.txt"), own);
+    ASSERT_EQ(Run({"export", Footbridge(), "--to", "damping", "-o", Path("private.txt")}), kDone);
+    EXPECT_EQ(fs::status(Path("private.txt")).permissions(), own);
+}
+
+TEST_F(VynxTest, AllLeavesTheModelAloneAndGoesOnAfterAFailure) {
+    const std::string text = Tevra::TestSupport::ReadFile(Footbridge());
+    Write("m.json", text + "\n");
+    fs::create_directory(Path("m.damping.txt"));
+    EXPECT_EQ(Run({"export", Path("m.json"), "--to", "all", "-o", m_folder.Path().string()}),
+              kFailed);
+    EXPECT_EQ(Tevra::TestSupport::ReadFile(Path("m.json")), text + "\n");
+    EXPECT_NE(m_out.find("document: skipped, "), std::string::npos) << m_out;
+    EXPECT_NE(m_err.find("m.damping.txt: can't be written: it is a folder"), std::string::npos);
+    EXPECT_NE(m_err.find("not written: damping"), std::string::npos) << m_err;
+}
+
+TEST_F(VynxTest, TheLongestExtensionSaysTheFormat) {
+    EXPECT_EQ(WriterOf("x.damping.txt")->id, "damping");
+    EXPECT_EQ(WriterOf("X.DAMPING.TXT")->id, "damping");
+    EXPECT_EQ(WriterOf("a.b.json")->id, "document");
+    EXPECT_EQ(WriterOf("x.txt"), nullptr);
+    EXPECT_EQ(WriterOf(".json"), nullptr);
 }
 
 TEST_F(VynxTest, AllWritesWhatTheModelCanFeed) {

@@ -6,18 +6,28 @@ namespace Vynx {
 
 namespace {
 
-/// The first format that will do and has the extension of a file; null when there is none.
+bool HasExtension(const std::string& name, std::string_view extension) {
+    return name.size() > extension.size() &&
+           Tevra::Text::EqualNoCase(std::string_view(name).substr(name.size() - extension.size()),
+                                    extension);
+}
+
+/// Of the formats that will do, the one that has the longest extension of a file; null when there
+/// is none.
 template <class WillDo>
 const Format* FormatOf(const std::filesystem::path& file, WillDo&& willDo) {
-    const std::string extension = file.extension().string();
+    const std::string name = file.filename().string();
+    const Format* found = nullptr;
+    std::size_t length = 0;
     for (const Format& format : Formats()) {
-        for (const std::string_view own : format.extensions) {
-            if (willDo(format) && Tevra::Text::EqualNoCase(own, std::string_view(extension))) {
-                return &format;
+        for (const std::string_view extension : format.extensions) {
+            if (willDo(format) && extension.size() > length && HasExtension(name, extension)) {
+                found = &format;
+                length = extension.size();
             }
         }
     }
-    return nullptr;
+    return found;
 }
 
 }  // namespace

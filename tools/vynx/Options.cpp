@@ -5,6 +5,7 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "io/NumberFormat.h"
 #include "platform/text/Utf8.h"
 #include "vynx/Failure.h"
 
@@ -23,15 +24,19 @@ Tevra::CEntList MakeList(const OptionSpec& spec, std::string_view text) {
     return {Tevra::Text::FromUtf8(text), spec.listKind};
 }
 
+bool IsInRange(const OptionSpec& spec, double value) {
+    return !spec.least || value >= *spec.least;
+}
+
 /// Whether a text reads as a value of the option.
 bool Reads(const OptionSpec& spec, const std::string& text) {
     int whole = 0;
     double real = 0.0;
     switch (spec.kind) {
         case OptionKind::Integer:
-            return ReadNumber(text, whole);
+            return ReadNumber(text, whole) && IsInRange(spec, whole);
         case OptionKind::Real:
-            return ReadNumber(text, real) && std::isfinite(real);
+            return ReadNumber(text, real) && std::isfinite(real) && IsInRange(spec, real);
         case OptionKind::Choice:
             return std::find(spec.choices.begin(), spec.choices.end(), text) != spec.choices.end();
         case OptionKind::List:
@@ -43,12 +48,21 @@ bool Reads(const OptionSpec& spec, const std::string& text) {
     }
 }
 
+std::string AtLeast(const OptionSpec& spec) {
+    std::string text;
+    if (spec.least) {
+        text = " not below ";
+        Tevra::AppendGeneral(text, *spec.least);
+    }
+    return text;
+}
+
 std::string Expected(const OptionSpec& spec) {
     switch (spec.kind) {
         case OptionKind::Integer:
-            return "a whole number";
+            return "a whole number" + AtLeast(spec);
         case OptionKind::Real:
-            return "a number";
+            return "a number" + AtLeast(spec);
         case OptionKind::List:
             return "a list such as \"1 to 5\"";
         case OptionKind::Path:

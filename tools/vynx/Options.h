@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,6 +21,7 @@ struct OptionSpec {
     std::string_view help;
     Tevra::SelType listKind = Tevra::SelType::None;  ///< of a list
     std::vector<std::string_view> choices{};         ///< of a choice
+    std::optional<double> least{};                   ///< of a number
 };
 
 /// How help shows the value of an option: "N", "LIST", "one|two"; empty for flags.

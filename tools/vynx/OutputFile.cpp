@@ -21,6 +21,16 @@ namespace {
     throw Failure(kFailed, target + ": can't be written: " + why);
 }
 
+/// What a link points to, also when that does not exist.
+fs::path EndOfLink(const fs::path& link) {
+    std::error_code error;
+    fs::path end = fs::canonical(link, error);
+    if (error) {
+        end = link.parent_path() / fs::read_symlink(link, error);
+    }
+    return end;
+}
+
 }  // namespace
 
 OutputFile::OutputFile(const std::string& target, const std::string& suggestedName)
@@ -29,26 +39,28 @@ OutputFile::OutputFile(const std::string& target, const std::string& suggestedNa
     if (target == "-") {
         MakeFolder(fs::temp_directory_path(error));
         m_work = m_folder / suggestedName;
+        m_onSignal.Set(m_work, m_folder);
         return;
     }
-    // A link stays a link: what it points to is replaced.
-    m_final = fs::is_symlink(target, error) ? fs::canonical(target, error) : fs::path(target);
     const fs::file_status status = fs::status(target, error);
     if (fs::is_directory(status)) {
         CannotWrite(target, "it is a folder");
     }
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        m_final = m_work = target;
+        return;
+    }
+    // A link stays a link: what it points to is replaced.
+    m_final = fs::is_symlink(target, error) ? EndOfLink(target) : fs::path(target);
     if (m_final.filename().empty()) {
         CannotWrite(target, "it is no file name");
-    }
-    if (fs::exists(status) && !fs::is_regular_file(status)) {
-        m_work = m_final;
-        return;
     }
     if (fs::exists(status) && access(m_final.c_str(), W_OK) != 0) {
         CannotWrite(target, std::strerror(errno));  // NOLINT(concurrency-mt-unsafe)
     }
     MakeFolder(m_final.has_parent_path() ? m_final.parent_path() : fs::path("."));
     m_work = m_folder / m_final.filename();
+    m_onSignal.Set(m_work, m_folder);
 }
 
 OutputFile::~OutputFile() {
@@ -88,6 +100,10 @@ void OutputFile::Commit() {
         return;
     }
     std::error_code error;
+    const fs::file_status former = fs::status(m_final, error);
+    if (fs::exists(former)) {
+        fs::permissions(m_work, former.permissions(), error);
+    }
     fs::rename(m_work, m_final, error);
     if (error) {
         CannotWrite(m_target, error.message());

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <string>
 
+#include "vynx/Interrupt.h"
+
 namespace Vynx {
 
 /// A file that appears whole or not at all: it is written under its own name in a temporary folder
@@ -34,6 +36,7 @@ private:
     std::filesystem::path m_final;   ///< empty for standard output
     std::filesystem::path m_folder;  ///< temporary folder, empty when written directly
     std::filesystem::path m_work;
+    RemovedOnSignal m_onSignal;
 };
 
 }  // namespace Vynx

@@ -30,6 +30,9 @@ std::wstring_view StringTableText(int number) {
 std::wstring FileMessage(int number, std::wstring_view fileName) {
     constexpr std::wstring_view kPlace = L"%s";
     std::wstring text = Host().StringResource(number);
+    if (text.empty()) {
+        text = StringTableText(number);
+    }
     if (const auto at = text.find(kPlace); at != std::wstring::npos) {
         text.replace(at, kPlace.size(), fileName);
     }

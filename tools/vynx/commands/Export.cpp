@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "vynx/Console.h"
 #include "vynx/Format.h"
 #include "vynx/ModelFile.h"
 #include "vynx/SaveModel.h"
@@ -28,37 +29,50 @@ void ExportOne(const ExportRequest& request) {
     SaveModel(*format, options, model, request.output, request.model);
 }
 
+/// Writes the model in one format, if it can be, and says what came of it; false when it should
+/// have been written and was not.
+bool ExportOneOfAll(const Format& format, const ExportRequest& request, Tevra::CVynData& model) {
+    const OptionValues options(format.id, format.options, {});
+    const std::string lack = format.lacks != nullptr ? format.lacks(model, options) : "";
+    if (!lack.empty()) {
+        std::cout << format.id << ": skipped, " << lack << '\n';
+        return true;
+    }
+    const fs::path target =
+        fs::path(request.output) / (StemOf(request.model) + std::string(format.extensions.front()));
+    std::error_code ignored;
+    if (fs::equivalent(target, request.model, ignored)) {
+        std::cout << format.id << ": skipped, " << target.string() << " is the model itself\n";
+        return true;
+    }
+    try {
+        if (!WriteFormat(format, options, model, target.string(), request.model)) {
+            return false;
+        }
+    } catch (const Failure& failure) {
+        Say("vynx: " + std::string(failure.what()));
+        return false;
+    }
+    std::cout << format.id << ": " << target.string() << '\n';
+    return true;
+}
+
 void ExportAll(const ExportRequest& request) {
     if (!request.options.empty()) {
         throw Failure(kUsage, "--" + request.options.begin()->first +
                                   ": --to all writes every format with its defaults");
     }
+    Tevra::CVynData model;
+    LoadModel(request.model, request.from, model);
     std::error_code error;
     fs::create_directories(request.output, error);
     if (!fs::is_directory(request.output)) {
         throw Failure(kFailed, request.output + ": can't be made: " + error.message());
     }
-    Tevra::CVynData model;
-    LoadModel(request.model, request.from, model);
-    const std::string stem = StemOf(request.model);
     std::string failed;
     for (const Format& format : Formats()) {
-        const OptionValues options(format.id, format.options, {});
-        if (format.write == nullptr) {
-            continue;
-        }
-        const std::string lack = format.lacks != nullptr ? format.lacks(model, options) : "";
-        const std::string id(format.id);
-        if (!lack.empty()) {
-            std::cout << id << ": skipped, " << lack << '\n';
-            continue;
-        }
-        const std::string target =
-            (fs::path(request.output) / (stem + std::string(format.extensions.front()))).string();
-        if (WriteFormat(format, options, model, target, request.model)) {
-            std::cout << id << ": " << target << '\n';
-        } else {
-            failed += (failed.empty() ? "" : ", ") + id;
+        if (format.write != nullptr && !ExportOneOfAll(format, request, model)) {
+            failed += (failed.empty() ? "" : ", ") + std::string(format.id);
         }
     }
     if (!failed.empty()) {

@@ -1,5 +1,4 @@
 #include "dyna/CeapDampingFile.h"
-#include "model/Util.h"
 #include "vynx/formats/FormatRows.h"
 
 namespace Vynx {
@@ -9,34 +8,30 @@ namespace {
 using Tevra::CVynData;
 using Tevra::SelType;
 
-bool HasAnalysedModes(const CVynData& model) {
-    for (const int number : model.AnalysisTaskTable().Numbers()) {
-        const Tevra::CAnalysisTask& task = model.AnalysisTask(number);
-        if (task.IsModal() && task.IsAnalysed()) {
-            return true;
-        }
-    }
-    return false;
+void SetOptions(Tevra::CCeapDampingFile& writer, const OptionValues& options) {
+    writer.SetNodeList(options.List("nodes"));
+    writer.SetModeList(options.List("modes"));
+    writer.SetDamping(options.Real("damping"));
 }
 
 std::string Lacks(const CVynData& model, const OptionValues& options) {
-    if (!HasAnalysedModes(model)) {
+    Tevra::CCeapDampingFile writer;
+    SetOptions(writer, options);
+    if (Tevra::CCeapDampingFile::ModalTask(model) == 0) {
         return "the model has no analysed modal task";
     }
-    if (Tevra::Util::NumItem(options.List("nodes"), model, model.HighestNode(), true) == 0) {
+    if (writer.IncludedNodes(model).empty()) {
         return "no node of the model is in the list --nodes";
     }
-    if (Tevra::Util::NumItem(options.List("modes"), model, -1, false) == 0) {
-        return "no mode of the model is in the list --modes";
+    if (writer.IncludedModes(model).empty()) {
+        return "no mode of the first analysed modal task is in the list --modes";
     }
     return {};
 }
 
 bool Write(ExportJob& job) {
     Tevra::CCeapDampingFile writer;
-    writer.SetNodeList(job.options.List("nodes"));
-    writer.SetModeList(job.options.List("modes"));
-    writer.SetDamping(job.options.Real("damping"));
+    SetOptions(writer, job.options);
     return RunWriter(writer, job);
 }
 
@@ -48,8 +43,11 @@ Format DampingFormat() {
             .extensions = {".damping.txt"},
             .options = {{"nodes", OptionKind::List, "all", "nodes with mode shapes", SelType::Node},
                         {"modes", OptionKind::List, "all", "numbers of the modes", SelType::Mode},
-                        {"damping", OptionKind::Real, "0.02",
-                         "damping of every mode, fraction of critical"}},
+                        {.name = "damping",
+                         .kind = OptionKind::Real,
+                         .fallback = "0.02",
+                         .help = "damping of every mode, fraction of critical",
+                         .least = 0.0}},
             .lacks = &Lacks,
             .write = &Write};
 }

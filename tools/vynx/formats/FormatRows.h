@@ -15,6 +15,9 @@ inline bool RunWriter(Tevra::CStreamFile& writer, ExportJob& job) {
     writer.SetData(&job.model);
     const bool written = writer.OpenWrite(Tevra::Text::FromPath(job.path));
     job.log = writer.ErrorLog();
+    if (!written && job.log.empty()) {
+        job.log = L"The model is in use.";
+    }
     return written;
 }
 
