@@ -281,5 +281,35 @@ TEST_F(VynxTest, InfoTellsWhatAModelHolds) {
     }
 }
 
+TEST_F(VynxTest, KeywordFilesAreModels) {
+    Write("deck.K",
+          "*KEYWORD\n*NODE\n       1             1.0\n       2             2.0\n*PART\n"
+          "*ELEMENT_BEAM\n       5       7       1       2\n*part\n"
+          "*ELEMENT_SHELL\n       5       7       1       2       9\n*MAT\n*END\n");
+    ASSERT_EQ(Run({"info", Path("deck.K")}), kDone) << m_err;
+    EXPECT_NE(m_out.find("skipped\n       1  *MAT\n       2  *PART\n"), std::string::npos) << m_out;
+    EXPECT_EQ(m_err, Path("deck.K") + ": elements replaced by later ones of the same number: 1\n" +
+                         Path("deck.K") + ": element 5: node 9 does not exist\n");
+
+    ASSERT_EQ(Run({"import", Path("deck.K"), "-o", Path("model.json")}), kDone) << m_err;
+    EXPECT_NE(m_err.find("skipped 3 blocks of 2 kinds"), std::string::npos) << m_err;
+    Tevra::CVynData model;
+    std::string error;
+    ASSERT_TRUE(Tevra::Document::ReadDocument(fs::path(Path("model.json")), model, error)) << error;
+    EXPECT_EQ(model.Node(2).Position().x, 2.0);
+    EXPECT_EQ(model.Elem(5).Type(), Tevra::ElementType::Tri3);
+    EXPECT_EQ(model.Elem(5).Property(), 7);
+
+    Write("bad.dyn", "*NODE\n       1\n       x\n");
+    EXPECT_EQ(Run({"import", Path("bad.dyn"), "-o", Path("bad.json")}), kFailed);
+    EXPECT_NE(m_err.find(Path("bad.dyn") + ":3: columns 1-8: \"x\" is not an integer"),
+              std::string::npos)
+        << m_err;
+    EXPECT_FALSE(fs::exists(Path("bad.json")));
+    EXPECT_EQ(Run({"export", Footbridge(), "--to", "dyna", "-o", Path("out.key")}), kUsage);
+    EXPECT_EQ(Run({"export", Path("deck.K"), "--to", "damping", "-o", Path("d.txt")}), kFailed);
+    EXPECT_NE(m_err.find("no analysed modal task"), std::string::npos) << m_err;
+}
+
 }  // namespace
 }  // namespace Vynx

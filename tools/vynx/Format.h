@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "model/VynData.h"
@@ -18,6 +20,20 @@ struct ExportJob {
     std::wstring log{};  ///< errors and notes of the writer, in the host's mark-up
 };
 
+/// What a file holds that its reader does not read: names of its blocks and how often each stands
+/// there.
+using SkippedBlocks = std::vector<std::pair<std::string, std::int64_t>>;
+
+/// One run of a format's reader.
+struct ReadJob {
+    const std::filesystem::path file;
+    Tevra::CVynData& model;
+    int line = 0;         ///< where a text could not be read on, 0 when no line is known
+    std::string error{};  ///< why the file could not be read
+    std::vector<std::string> notes{};  ///< what the user must know of a file that was read
+    SkippedBlocks skipped{};
+};
+
 /// A file format: one row of the table in FormatTable.cpp.
 struct Format {
     std::string_view id;
@@ -29,9 +45,10 @@ struct Format {
     std::string (*lacks)(const Tevra::CVynData& model, const OptionValues& options) = nullptr;
     /// Writes the file; null for formats that are only read.
     bool (*write)(ExportJob& job) = nullptr;
-    /// Reads a file, leaving the reason in `error` on failure; null for formats only written.
-    bool (*read)(const std::filesystem::path& file, Tevra::CVynData& model,
-                 std::string& error) = nullptr;
+    /// Reads a file, leaving the reason in the job on failure; null for formats only written.
+    bool (*read)(ReadJob& job) = nullptr;
+    /// Files name properties without describing them: their numbers have no records.
+    bool geometryOnly = false;
 };
 
 /// All formats, in the order in which they are listed.

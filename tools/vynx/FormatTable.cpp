@@ -33,7 +33,7 @@ const Format* FormatOf(const std::filesystem::path& file, WillDo&& willDo) {
 }  // namespace
 
 const std::vector<Format>& Formats() {
-    static const std::vector<Format> kFormats{DampingFormat(), DocumentFormat()};
+    static const std::vector<Format> kFormats{DampingFormat(), DocumentFormat(), KeywordFormat()};
     return kFormats;
 }
 

@@ -35,22 +35,52 @@ const Format& FormatOf(const std::string& file, const std::string& from) {
     return *format;
 }
 
-}  // namespace
-
-void LoadModel(const std::string& file, const std::string& from, Tevra::CVynData& model) {
-    const Format& format = FormatOf(file, from);
+/// Reads the file, telling where and why when that fails.
+ReadJob Read(const std::string& file, const Format& format, Tevra::CVynData& model) {
     const Progress progress("reading " + file);
-    std::string error;
-    if (!format.read(file, model, error)) {
-        throw Failure(kFailed, file + ": " + error);
+    ReadJob job{file, model};
+    if (!format.read(job)) {
+        const std::string line = job.line > 0 ? ":" + std::to_string(job.line) : "";
+        throw Failure(kFailed, file + line + ": " + job.error);
     }
-    const Tevra::Util::ReferenceReport report = Tevra::Util::FindDanglingReferences(model);
+    return job;
+}
+
+void SayDanglingReferences(const std::string& file, const Format& format,
+                           const Tevra::CVynData& model) {
+    using namespace Tevra::Util;
+    const ReferenceReport report = FindDanglingReferences(
+        model, format.geometryOnly ? ReferenceScope::NoProperties : ReferenceScope::All);
     for (const std::wstring& finding : report.findings) {
         Say(file + ": " + Tevra::Text::ToUtf8(finding));
     }
     const long more = report.total - static_cast<long>(report.findings.size());
     if (more > 0) {
         Say(file + ": " + std::to_string(more) + " more numbers without a record");
+    }
+}
+
+}  // namespace
+
+SkippedBlocks LoadModel(const std::string& file, const std::string& from, Tevra::CVynData& model) {
+    const Format& format = FormatOf(file, from);
+    ReadJob job = Read(file, format, model);
+    for (const std::string& note : job.notes) {
+        Say(file + ": " + note);
+    }
+    SayDanglingReferences(file, format, model);
+    return std::move(job.skipped);
+}
+
+void LoadToWrite(const std::string& file, const std::string& from, Tevra::CVynData& model) {
+    std::int64_t blocks = 0;
+    const SkippedBlocks skipped = LoadModel(file, from, model);
+    for (const auto& [name, count] : skipped) {
+        blocks += count;
+    }
+    if (blocks > 0) {
+        Say(file + ": skipped " + std::to_string(blocks) + " blocks of " +
+            std::to_string(skipped.size()) + " kinds; vynx info names them");
     }
 }
 

@@ -25,7 +25,7 @@ void ExportOne(const ExportRequest& request) {
     }
     const OptionValues options(format->id, format->options, request.options);
     Tevra::CVynData model;
-    LoadModel(request.model, request.from, model);
+    LoadToWrite(request.model, request.from, model);
     SaveModel(*format, options, model, request.output, request.model);
 }
 
@@ -63,7 +63,7 @@ void ExportAll(const ExportRequest& request) {
                                   ": --to all writes every format with its defaults");
     }
     Tevra::CVynData model;
-    LoadModel(request.model, request.from, model);
+    LoadToWrite(request.model, request.from, model);
     std::error_code error;
     fs::create_directories(request.output, error);
     if (!fs::is_directory(request.output)) {

@@ -15,6 +15,7 @@ using Tevra::CVynData;
 using Tevra::Text::ToUtf8;
 
 constexpr int kColumn = 24;
+constexpr int kCountColumn = 8;
 
 void Line(std::string_view label, const std::string& text) {
     std::cout << "  " << std::left << std::setw(kColumn) << label << text << '\n';
@@ -107,11 +108,20 @@ void PrintViews(const CVynData& model) {
     }
 }
 
+void PrintSkipped(const SkippedBlocks& skipped) {
+    if (!skipped.empty()) {
+        std::cout << "skipped\n";
+    }
+    for (const auto& [name, count] : skipped) {
+        std::cout << std::right << std::setw(kCountColumn) << count << "  " << name << '\n';
+    }
+}
+
 }  // namespace
 
 void Info(const InfoRequest& request) {
     CVynData model;
-    LoadModel(request.model, request.from, model);
+    const SkippedBlocks skipped = LoadModel(request.model, request.from, model);
     std::cout << request.model << '\n';
     PrintTitles(model);
     PrintCounts(model);
@@ -119,6 +129,7 @@ void Info(const InfoRequest& request) {
     PrintExtent(model);
     PrintCases(model);
     PrintViews(model);
+    PrintSkipped(skipped);
 }
 
 }  // namespace Vynx

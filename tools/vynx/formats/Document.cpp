@@ -28,8 +28,8 @@ bool Write(ExportJob& job) {
     return written;
 }
 
-bool Read(const std::filesystem::path& file, Tevra::CVynData& model, std::string& error) {
-    return Tevra::Document::ReadDocument(file, model, error);
+bool Read(ReadJob& job) {
+    return Tevra::Document::ReadDocument(job.file, job.model, job.error);
 }
 
 }  // namespace

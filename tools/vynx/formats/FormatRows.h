@@ -9,6 +9,7 @@ namespace Vynx {
 // The rows of the format table, each in a file of its own beside this one.
 Format DampingFormat();
 Format DocumentFormat();
+Format KeywordFormat();
 
 /// Runs a single-file writer of the library on a job.
 inline bool RunWriter(Tevra::CStreamFile& writer, ExportJob& job) {

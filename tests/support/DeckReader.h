@@ -1,0 +1,30 @@
+#pragma once
+
+#include <sstream>
+#include <string>
+
+#include "dyna/DynaImport.h"
+#include "dyna/DynaLines.h"
+#include "model/VynData.h"
+
+namespace Tevra::TestSupport {
+
+/// Reads keyword decks from texts, each reader one of them into a model of its own.
+class DeckReader : public CDynaImport {
+public:
+    DeckReader() { SetData(&m_model); }
+    DeckReader(const DeckReader&) = delete;
+    DeckReader& operator=(const DeckReader&) = delete;
+
+    bool ReadText(const std::string& text) {
+        std::istringstream stream(text);
+        CDynaLines lines(stream);
+        return Read(lines);
+    }
+    CVynData& Model() { return m_model; }
+
+private:
+    CVynData m_model;
+};
+
+}  // namespace Tevra::TestSupport
