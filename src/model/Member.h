@@ -111,7 +111,8 @@ public:
     const CEntList& Storeys() const { return m_storeys; }
     /// True when the assembly is cut at storeys.
     bool IsStorey() const { return !m_storeys.IsEmpty(); }
-    /// Extents of the cut planes along local y and z, m.
+    /// Whole extents of the cut planes along local y and z, the line in their middle, m; 0 no
+    /// bound.
     double Dy() const { return m_dy; }
     double Dz() const { return m_dz; }
     /// Places of the cut planes as fractions of the length.

@@ -79,6 +79,15 @@ const NumberedTable<Data::CMatDesign>* CModelData::DesignTable(MatType family) c
     return nullptr;
 }
 
+const Data::CMatAnal* CModelData::FindMaterial(const Data::MaterialChoice& choice) const {
+    if (choice.analysis != 0) {
+        return m_MatAnal.Find(choice.analysis);
+    }
+    const auto* grades = DesignTable(choice.type);
+    const Data::CMatDesign* grade = grades != nullptr ? grades->Find(choice.grade) : nullptr;
+    return grade != nullptr ? &grade->MatAnal() : nullptr;
+}
+
 bool CModelData::operator==(const CModelData& o) const {
 #define VYN_SAME_TABLE(Kind, Record) &&m_##Kind == o.m_##Kind
     return m_titles == o.m_titles && m_progTitles == o.m_progTitles && m_location == o.m_location &&

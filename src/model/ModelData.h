@@ -283,6 +283,9 @@ public:
 
     /// The table of design grades of a family; null for `Generic` and unknown families.
     const NumberedTable<Data::CMatDesign>* DesignTable(MatType family) const;
+    /// What a property is made of: its analysis material, without one that of its design grade;
+    /// null when that does not exist.
+    const Data::CMatAnal* FindMaterial(const Data::MaterialChoice& choice) const;
 
     /// Changes with every record written and is never the same in two models of a process that
     /// differ: derived data keep it to tell whether they still hold.

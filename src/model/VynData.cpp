@@ -178,6 +178,14 @@ const NumberedTable<bool>& CVynData::LoadCases() const {
 
 #undef VYN_LOAD_TABLES
 
+const SpanLoadIndex& CVynData::SpanLoadsByElement() const {
+    DerivedData& derived = Derived();
+    if (!derived.spanLoads) {
+        derived.spanLoads = std::make_unique<const SpanLoadIndex>(*this);
+    }
+    return *derived.spanLoads;
+}
+
 int CVynData::HighestLoadCase() const {
     return LoadCases().Highest();
 }

@@ -11,6 +11,7 @@
 namespace Tevra {
 
 class CaseCombiner;
+class SpanLoadIndex;
 struct ActiveSet;
 struct CombinationSums;
 struct DerivedData;
@@ -115,6 +116,9 @@ public:
     bool LoadCaseExist(int loadCase) const;
     /// The load cases with a title or a load.
     const NumberedTable<bool>& LoadCases() const;
+
+    /// What loads the spans of 1D elements; holds until the model changes.
+    const SpanLoadIndex& SpanLoadsByElement() const;
 
     // --- results
     MemRes& EditResults() {

@@ -3,11 +3,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <vector>
 
 #include "model/BitSet.h"
 #include "model/CombCaseDesc.h"
 #include "model/NumberedTable.h"
+#include "model/SpanLoadIndex.h"
 
 namespace Tevra {
 
@@ -35,6 +37,7 @@ struct DerivedData {
     std::map<int, ActiveSet> active;      ///< by selection number
     std::map<int, CombinationSums> sums;  ///< by combination number
     std::size_t keptParts = 0;            ///< of all `sums`
+    std::unique_ptr<const SpanLoadIndex> spanLoads;
 };
 
 }  // namespace Tevra
