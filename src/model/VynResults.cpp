@@ -13,8 +13,8 @@ namespace {
 constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
 constexpr Vec3<double> kNoVector{kNone, kNone, kNone};
 
-/// Which tables hold what a host data code names. Displacements of elements follow from those of
-/// nodes.
+/// Which tables hold what a host data code names, some codes in several rows. Displacements of
+/// elements follow from those of nodes.
 struct CodeKinds {
     int code;
     std::array<ResultKind, 2> kinds;
@@ -34,6 +34,8 @@ constexpr CodeKinds kCodes[] = {
     {14001008, {ResultKind::Elem1DDisp, ResultKind::NodeDisp}},
     {14002004, {ResultKind::Elem1DForce, ResultKind::SpringForce}},
     {14002008, {ResultKind::Elem1DForce, ResultKind::SpringForce}},
+    {14002004, {ResultKind::NodeSpringForce, ResultKind::NodeSpringForce}},
+    {14002008, {ResultKind::NodeSpringForce, ResultKind::NodeSpringForce}},
     {15001004, {ResultKind::NodeDisp, ResultKind::NodeDisp}},
     {15001008, {ResultKind::NodeDisp, ResultKind::NodeDisp}},
     {15003001, {ResultKind::Elem2DForce, ResultKind::Elem2DForce}},
@@ -50,10 +52,10 @@ bool HasKind(const CaseResults* results, ResultKind kind) {
 }
 
 bool HasCode(const CaseResults* results, int code) {
-    const auto entry = std::find_if(std::begin(kCodes), std::end(kCodes),
-                                    [code](const CodeKinds& kinds) { return kinds.code == code; });
-    return entry != std::end(kCodes) &&
-           (HasKind(results, entry->kinds[0]) || HasKind(results, entry->kinds[1]));
+    return std::any_of(std::begin(kCodes), std::end(kCodes), [&](const CodeKinds& entry) {
+        return entry.code == code &&
+               (HasKind(results, entry.kinds[0]) || HasKind(results, entry.kinds[1]));
+    });
 }
 
 }  // namespace

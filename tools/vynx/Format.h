@@ -45,6 +45,9 @@ struct Format {
     std::string (*lacks)(const Tevra::CVynData& model, const OptionValues& options) = nullptr;
     /// Writes the file; null for formats that are only read.
     bool (*write)(ExportJob& job) = nullptr;
+    /// Whether it writes many files, in place, into the folder that the target names without its
+    /// extension.
+    bool writesFolder = false;
     /// Reads a file, leaving the reason in the job on failure; null for formats only written.
     bool (*read)(ReadJob& job) = nullptr;
     /// Files name properties without describing them: their numbers have no records.

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "io/NumberFormat.h"
+#include "platform/text/Ascii.h"
 #include "platform/text/Utf8.h"
 #include "vynx/Failure.h"
 
@@ -39,6 +40,10 @@ bool Reads(const OptionSpec& spec, const std::string& text) {
             return ReadNumber(text, real) && std::isfinite(real) && IsInRange(spec, real);
         case OptionKind::Choice:
             return std::find(spec.choices.begin(), spec.choices.end(), text) != spec.choices.end();
+        case OptionKind::Letters:
+            return std::all_of(text.begin(), text.end(), [&spec](char c) {
+                return spec.choices.front().find(Tevra::Text::ToUpper(c)) != std::string_view::npos;
+            });
         case OptionKind::List:
             return MakeList(spec, text).IsValid();
         case OptionKind::Path:
@@ -63,6 +68,8 @@ std::string Expected(const OptionSpec& spec) {
             return "a whole number" + AtLeast(spec);
         case OptionKind::Real:
             return "a number" + AtLeast(spec);
+        case OptionKind::Letters:
+            return "letters of " + std::string(spec.choices.front());
         case OptionKind::List:
             return "a list such as \"1 to 5\"";
         case OptionKind::Path:
@@ -88,6 +95,8 @@ std::string ValueName(const OptionSpec& option) {
             return "PATH";
         case OptionKind::Text:
             return "TEXT";
+        case OptionKind::Letters:
+            return "LETTERS";
         case OptionKind::Choice:
             break;
     }

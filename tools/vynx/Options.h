@@ -11,7 +11,7 @@
 
 namespace Vynx {
 
-enum class OptionKind { Flag, Integer, Real, Text, Choice, List, Path };
+enum class OptionKind { Flag, Integer, Real, Text, Choice, Letters, List, Path };
 
 /// An option of a format: `--name VALUE`, or `--name` for a flag.
 struct OptionSpec {
@@ -20,11 +20,11 @@ struct OptionSpec {
     std::string_view fallback;  ///< the value when it is not given, as text
     std::string_view help;
     Tevra::SelType listKind = Tevra::SelType::None;  ///< of a list
-    std::vector<std::string_view> choices{};         ///< of a choice
+    std::vector<std::string_view> choices{};         ///< of a choice; of letters, all in one text
     std::optional<double> least{};                   ///< of a number
 };
 
-/// How help shows the value of an option: "N", "LIST", "one|two"; empty for flags.
+/// How help shows the value of an option: "N", "LIST", "one|two", "LETTERS"; empty for flags.
 std::string ValueName(const OptionSpec& option);
 
 /// Option texts as they were given, by name; flags have an empty text.

@@ -17,4 +17,7 @@ void SaveModel(const Format& format, const OptionValues& options, Tevra::CVynDat
 bool WriteFormat(const Format& format, const OptionValues& options, Tevra::CVynData& model,
                  const std::string& target, const std::string& source);
 
+/// What is written for a target: the target, or the folder of a format that writes one.
+std::string ProductOf(const Format& format, const std::string& target);
+
 }  // namespace Vynx

@@ -53,7 +53,7 @@ bool ExportOneOfAll(const Format& format, const ExportRequest& request, Tevra::C
         Say("vynx: " + std::string(failure.what()));
         return false;
     }
-    std::cout << format.id << ": " << target.string() << '\n';
+    std::cout << format.id << ": " << ProductOf(format, target.string()) << '\n';
     return true;
 }
 

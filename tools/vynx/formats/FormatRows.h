@@ -10,6 +10,7 @@ namespace Vynx {
 Format DampingFormat();
 Format DocumentFormat();
 Format KeywordFormat();
+Format SqlFormat();
 
 /// Runs a single-file writer of the library on a job.
 inline bool RunWriter(Tevra::CStreamFile& writer, ExportJob& job) {
