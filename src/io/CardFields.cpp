@@ -1,9 +1,12 @@
 #include "io/CardFields.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 
+#include "io/DecimalDigits.h"
 #include "io/NumberFormat.h"
 
 namespace Tevra {
@@ -41,6 +44,39 @@ char* ShortenExponent(char* first, char* last) {
     return DeleteIf(first, last, 2, '0');
 }
 
+/// Digits of "%e".
+constexpr int kDigits = 7;
+
+/// Writes the text with its short exponent straight from the digits; null, and nothing is written,
+/// where they can't be told in the short way or the exponent has three digits.
+char* ShortText(char* out, double value) {
+    std::uint64_t digits = 0;
+    int exponent = 0;
+    const double magnitude = std::abs(value);
+    if (magnitude != 0.0 && (!SignificantDigits(magnitude, kDigits, digits, exponent) ||
+                             exponent < -99 || exponent > 99)) {
+        return nullptr;
+    }
+    if (std::signbit(value)) {
+        *out++ = '-';
+    }
+    for (int k = kDigits; k > 1; --k) {
+        out[k] = static_cast<char>('0' + digits % 10);
+        digits /= 10;
+    }
+    out[0] = static_cast<char>('0' + digits);
+    out[1] = '.';
+    out += kDigits + 1;
+    *out++ = 'e';
+    *out++ = exponent < 0 ? '-' : '+';
+    const int size = std::abs(exponent);
+    if (size >= 10) {
+        *out++ = static_cast<char>('0' + size / 10);
+    }
+    *out++ = static_cast<char>('0' + size % 10);
+    return out;
+}
+
 }  // namespace
 
 char* AppendIntField(char* out, long long value, int width) {
@@ -59,7 +95,10 @@ char* AppendRealField(char* out, double value, int width, bool signSpace) {
         return Fill(out, '*', width);
     }
     char text[kMaxNumberText];
-    const char* const end = ShortenExponent(text, AppendExp(text, value));
+    const char* end = std::isfinite(value) ? ShortText(text, value) : nullptr;
+    if (end == nullptr) {
+        end = ShortenExponent(text, AppendExp(text, value));
+    }
     const int length = static_cast<int>(end - text);
     const bool reserve = signSpace && width >= kMinSignWidth && value > 0.0;
     const int room = reserve ? width - 1 : width;

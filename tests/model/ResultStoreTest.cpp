@@ -25,7 +25,7 @@ TEST(ResultSets, ExistByTheHostsDataCodes) {
         {ResultKind::NodeAcc, {12003004, 12003008}},
         {ResultKind::NodeReaction, {12004004, 12004008}},
         {ResultKind::NodeConstraint, {12005004, 12005008}},
-        {ResultKind::NodeSpringForce, {}},
+        {ResultKind::NodeSpringForce, {14002004, 14002008}},
         {ResultKind::Elem1DDisp, {14001004, 14001008}},
         {ResultKind::Elem1DForce, {14002004, 14002008}},
         {ResultKind::SpringForce, {14002004, 14002008}},

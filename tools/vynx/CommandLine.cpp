@@ -62,7 +62,7 @@ private:
             return;
         }
         CLI::Option* option = spec.kind == OptionKind::Flag
-                                  ? command.add_flag("--" + name, help)
+                                  ? command.add_flag("--" + name)->description(help)
                                   : command.add_option("--" + name, m_texts[name], help);
         if (spec.kind != OptionKind::Flag) {
             option->type_name(ValueName(spec));

@@ -11,6 +11,7 @@ Format DampingFormat();
 Format DocumentFormat();
 Format KeywordFormat();
 Format SqlFormat();
+Format NastranFormat();
 
 /// Runs a single-file writer of the library on a job.
 inline bool RunWriter(Tevra::CStreamFile& writer, ExportJob& job) {

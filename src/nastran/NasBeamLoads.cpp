@@ -1,0 +1,138 @@
+#include <array>
+#include <cmath>
+#include <string_view>
+
+#include "model/VynData.h"
+#include "nastran/NasFile.h"
+
+// Loads along beams.
+
+namespace Tevra {
+
+namespace {
+
+/// Share of a load below which a component in global axes is round-off.
+constexpr double kLeastShare = 1e-12;
+
+/// A load between two places; without the second one it is concentrated.
+struct Span {
+    bool isFraction = false;
+    double from = 0.0;
+    double fromValue = 0.0;
+    double to = 0.0;
+    double toValue = 0.0;
+    bool isPoint = false;
+};
+
+/// Words of a direction. Kept as files in the field have them: the same words stand for global and
+/// element axes, and those that end in E for projected loads, which the target takes for element
+/// axes.
+std::string_view TypeWord(Direction d, bool isProjected) {
+    constexpr std::array<std::string_view, 6> kWords{"FX", "FY", "FZ", "MX", "MY", "MZ"};
+    constexpr std::array<std::string_view, 6> kProjected{"FXE", "FYE", "FZE", "MXE", "MYE", "MZE"};
+    const auto i = static_cast<std::size_t>(d);
+    return isProjected ? kProjected[i] : kWords[i];
+}
+
+/// Words of the positions. Kept as files in the field have them: the target's own word for a
+/// fraction is FR.
+std::string_view ScaleWord(bool isFraction) {
+    return isFraction ? "PR" : "LE";
+}
+
+/// Position of a point as a length, unless both points of its load are fractions.
+double PositionOf(const Data::LoadPoint& point, bool asFraction, double length) {
+    return point.isFraction && !asFraction ? point.position * length : point.position;
+}
+
+/// Where a load acts. Positions are fractions where the host gives them so; uniform and linear
+/// loads run over the length of the element.
+Span SpanOf(const Data::CBeamLoad& load, double length) {
+    switch (load.TypeOf()) {
+        case BeamLoadType::Point:
+            return {load.PosIsFraction(1), load.Pos(1), load.Value(1), 0.0, 0.0, true};
+        case BeamLoadType::Patch: {
+            const bool isFraction = load.PosIsFraction(1) && load.PosIsFraction(2);
+            return {isFraction,    PositionOf(load.Point(1), isFraction, length),
+                    load.Value(1), PositionOf(load.Point(2), isFraction, length),
+                    load.Value(2), false};
+        }
+        default:
+            return {false, 0.0, load.Value(1), length, load.Value(2), false};
+    }
+}
+
+/// Whether one card can carry a load.
+bool IsCarried(BeamLoadType type) {
+    return type == BeamLoadType::Point || type == BeamLoadType::Uniform ||
+           type == BeamLoadType::Linear || type == BeamLoadType::Patch;
+}
+
+}  // namespace
+
+bool CNasFile::WriteBeamLoads() {
+    StartSection("Beam loads");
+    for (const int number : m_model->BeamLoadTable().Numbers()) {
+        const Data::CBeamLoad& load = m_model->BeamLoad(number);
+        SetSubject(L"Beam load", number);
+        if (HasValidCase(load) && !WriteBeamLoad(load)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool CNasFile::WriteBeamLoad(const Data::CBeamLoad& load) {
+    const std::vector<int> elements = LoadedBeams(load, false);
+    if (!elements.empty() && !IsCarried(load.TypeOf())) {
+        AddError(L"this feature does not support non-uniform member loads");
+        return false;
+    }
+    for (const int element : elements) {
+        WriteBeamLoadOn(load, element);
+    }
+    return true;
+}
+
+/// A load in a user axis becomes one card for each of its global components.
+void CNasFile::WriteBeamLoadOn(const Data::CBeamLoad& load, int element) {
+    const Direction d = load.GetDirection();
+    if (load.Axis() <= 0 || !m_model->AxisExist(load.Axis())) {
+        WriteBeamLoadCard(load, element, d, 1.0);
+        return;
+    }
+    const Data::CElement& record = m_model->Elem(element);
+    const Vec3<double> middle =
+        (m_model->TopoPosition(record, 1) + m_model->TopoPosition(record, 2)) * 0.5;
+    Vec3<double> local;
+    local[static_cast<int>(ToTrans(d))] = 1.0;
+    const Vec3<double> global = m_model->AxisDC(load.Axis(), middle).LtoG(local);
+    for (int k = 0; k < 3; ++k) {
+        if (std::abs(global[k]) > kLeastShare) {
+            WriteBeamLoadCard(load, element, static_cast<Direction>(IsTrans(d) ? k : k + 3),
+                              global[k]);
+        }
+    }
+}
+
+void CNasFile::WriteBeamLoadCard(const Data::CBeamLoad& load, int element, Direction direction,
+                                 double share) {
+    const Span span = SpanOf(load, m_model->ElemLen(element));
+    const bool isProjected = load.IsProjected() && load.Axis() != kLocalAxis;
+    StartCard("PLOAD1");
+    AddInt(load.LoadCase());
+    AddInt(element);
+    AddTextField(TypeWord(direction, isProjected));
+    AddTextField(ScaleWord(span.isFraction));
+    AddReal(span.from);
+    AddReal(span.fromValue * share);
+    if (span.isPoint) {
+        AddBlankFields(2);
+    } else {
+        AddReal(span.to);
+        AddReal(span.toValue * share);
+    }
+    EndCard();
+}
+
+}  // namespace Tevra

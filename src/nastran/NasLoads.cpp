@@ -1,0 +1,151 @@
+#include "io/TextOut.h"
+#include "model/VynData.h"
+#include "nastran/ComponentDigits.h"
+#include "nastran/NasFile.h"
+
+// The load sections in their order, and loads at nodes.
+
+namespace Tevra {
+
+namespace {
+
+/// Standard acceleration of gravity, m/s2.
+constexpr double kGravityAcceleration = 9.80665;
+
+}  // namespace
+
+bool CNasFile::WriteLoads() {
+    return !m_exportLoads ||
+           (WriteReferenceTemperature() && WriteSettlements() && WriteAppliedDisplacements() &&
+            WriteGravity() && WriteNodeLoads() && WriteBeamLoads() && WriteAxialLoads() &&
+            WriteBeamTemperatures() && WriteFaceLoads() && WriteInPlaneLoads() &&
+            WriteFaceTemperatures() && WriteSolidFaceLoads() && WriteBodyTemperatures() &&
+            WriteCombinations());
+}
+
+bool CNasFile::HasValidCase(const Data::CLoadBase& load) {
+    if (load.LoadCase() < 1) {
+        Skip(L"it is in no load case");
+    }
+    return load.LoadCase() >= 1;
+}
+
+std::vector<int> CNasFile::LoadedNodes(const Data::CLoadBase& load) {
+    std::vector<int> nodes = load.LoadedNodes(*m_model);
+    if (nodes.empty()) {
+        Skip(L"it loads no node of the model");
+    }
+    const std::size_t left =
+        std::erase_if(nodes, [this](int node) { return !IsNodeWritten(node); });
+    SkipMany(static_cast<int>(left), L"nodes", L"they are not in the file");
+    return nodes;
+}
+
+std::vector<int> CNasFile::LoadedElements(const Data::CLoadBase& load, int dimension) {
+    std::vector<int> elements = load.GetLoadedElements(*m_model, dimension);
+    const std::size_t left =
+        std::erase_if(elements, [this](int element) { return !IsElementWritten(element); });
+    SkipMany(static_cast<int>(left), L"elements", L"they are not in the file");
+    return elements;
+}
+
+/// Bars and beams, where wanted rods too, that a load on 1D elements names.
+std::vector<int> CNasFile::LoadedBeams(const Data::CLoadBase& load, bool withRods) {
+    std::vector<int> elements = LoadedElements(load, 1);
+    const std::size_t left = std::erase_if(elements, [this, withRods](int element) {
+        const ElementType type = m_model->Elem(element).Type();
+        return type != ElementType::Bar && type != ElementType::Beam &&
+               !(withRods && type == ElementType::Rod);
+    });
+    SkipMany(static_cast<int>(left), L"elements", L"they are no beams");
+    if (elements.empty() && left == 0) {
+        Skip(L"it loads no beam of the file");
+    }
+    return elements;
+}
+
+bool CNasFile::WriteSettlements() {
+    StartSection("Settlements");
+    for (const int number : m_model->SettlementTable().Numbers()) {
+        SetSubject(L"Settlement", number);
+        WriteImposed(m_model->Settlement(number));
+    }
+    return true;
+}
+
+bool CNasFile::WriteAppliedDisplacements() {
+    StartSection("Applied Displacements");
+    for (const int number : m_model->AppliedDisplacementTable().Numbers()) {
+        SetSubject(L"Applied displacement", number);
+        WriteImposed(m_model->AppliedDisplacement(number));
+    }
+    return true;
+}
+
+void CNasFile::WriteImposed(const Data::CNodeLoad& load) {
+    if (!HasValidCase(load)) {
+        return;
+    }
+    for (const int node : LoadedNodes(load)) {
+        StartCard("SPCD");
+        AddInt(load.LoadCase());
+        AddInt(node);
+        AddInt(Nas::DigitOf(load.GetDirection()));
+        AddReal(load.Value());
+        EndCard();
+    }
+}
+
+bool CNasFile::WriteGravity() {
+    StartSection("Gravity");
+    for (const int number : m_model->GravityLoadTable().Numbers()) {
+        const Data::CGravityLoad& load = m_model->GravityLoad(number);
+        SetSubject(L"Gravity load", number);
+        if (!HasValidCase(load)) {
+            continue;
+        }
+        StartCard("GRAV");
+        AddInt(GravityCase(load.LoadCase()));
+        AddInt(0);
+        AddReal(kGravityAcceleration);
+        AddReals(load.Value());
+        EndCard();
+    }
+    return true;
+}
+
+bool CNasFile::WriteNodeLoads() {
+    StartSection("Node loads");
+    for (const int number : m_model->NodeLoadTable().Numbers()) {
+        const Data::CNodeLoad& load = m_model->NodeLoad(number);
+        SetSubject(L"Node load", number);
+        if (!HasValidCase(load)) {
+            continue;
+        }
+        for (const int node : LoadedNodes(load)) {
+            WriteNodeLoad(load, node);
+        }
+    }
+    return m_out->Good();
+}
+
+void CNasFile::WriteNodeLoad(const Data::CNodeLoad& load, int node) {
+    const Direction d = load.GetDirection();
+    const int axis = load.Axis() == kLocalAxis ? m_model->Node(node).Axis() : load.Axis();
+    Vec3<double> components;
+    components[static_cast<int>(ToTrans(d))] = load.Value();
+    StartCard(IsTrans(d) ? "FORCE" : "MOMENT");
+    AddInt(load.LoadCase());
+    AddInt(node);
+    AddInt(CoordinateSystem(axis));
+    AddReal(1.0);
+    AddReals(components);
+    EndCard();
+}
+
+bool CNasFile::WriteBodyTemperatures() {
+    m_out->Append("$\n$ Body temperature - not exported\n$\n");
+    return true;
+}
+
+}  // namespace Tevra

@@ -1,0 +1,221 @@
+#include <cmath>
+#include <optional>
+
+#include "model/Faces.h"
+#include "model/VynData.h"
+#include "nastran/NasFile.h"
+
+// Temperatures of beams and planes, and the temperatures that stand for prestress.
+//
+// A member held at both ends and warmed by T carries the force -E A alpha T, one with a gradient T'
+// along z the moment E Iyy alpha T' (thermal strain alpha T against the strain of the force; see
+// Timoshenko and Goodier, Theory of Elasticity, thermal stress). A prestress P is therefore the
+// temperature -P / (E A alpha), and its eccentricity e the gradient -P e / (E I alpha).
+
+namespace Tevra {
+
+namespace {
+
+bool IsUsable(double value) {
+    return std::isfinite(value) && value != 0.0;
+}
+
+/// Mean of the corners of a plane of `first` on.
+double MeanOf(const Data::CFaceThermalLoad& load, int first, int corners) {
+    double sum = 0.0;
+    for (int k = 0; k < corners; ++k) {
+        sum += load.Value(first + k);
+    }
+    return sum / corners;
+}
+
+/// Temperatures at the top and at the bottom of a plane.
+struct Faces {
+    double top = 0.0;
+    double bottom = 0.0;
+};
+
+Faces FacesOf(const Data::CFaceThermalLoad& load, int corners) {
+    switch (load.TypeOf()) {
+        case FaceThermalType::Uniform:
+            return {load.Value(1), load.Value(1)};
+        case FaceThermalType::Gradient:
+            return {load.Value(1), load.Value(2)};
+        default:
+            return {MeanOf(load, 1, corners), MeanOf(load, 5, corners)};
+    }
+}
+
+/// Force per E of a prestress of 1D elements: P/E. Strain e is e A, a lack of fit d is d A / L.
+double ForcePerE(const Data::CAxialLoad& load, double e, double area, double length) {
+    switch (load.TypeOf()) {
+        case AxialLoadType::Strain:
+            return load.Value() * area;
+        case AxialLoadType::LackOfFit:
+            return load.Value() * area / length;
+        default:
+            return load.Value() / e;
+    }
+}
+
+}  // namespace
+
+bool CNasFile::WriteAxialLoads() {
+    StartSection("Axial loads - transferred as thermal loads");
+    for (const int number : m_model->AxialLoadTable().Numbers()) {
+        const Data::CAxialLoad& load = m_model->AxialLoad(number);
+        SetSubject(L"Axial load", number);
+        if (!HasValidCase(load)) {
+            continue;
+        }
+        for (const int element : LoadedBeams(load, true)) {
+            WriteAxialLoad(load, element);
+        }
+    }
+    return true;
+}
+
+/// With the tendon at (yoff, zoff): T = -P / (E A alpha), along the host's z -P zoff / (E Iyy
+/// alpha), along its y +P yoff / (E Izz alpha), as the target's z is the host's -y.
+void CNasFile::WriteAxialLoad(const Data::CAxialLoad& load, int element) {
+    const int section = m_model->Elem(element).Property();
+    const Data::CMatAnal* material =
+        m_model->FindMaterial(m_model->Section(section).Component(1).Material());
+    const double e = material != nullptr ? material->E() : 0.0;
+    const double alpha = material != nullptr ? material->Alpha() : 0.0;
+    const SectionProperties p = m_model->SectionProp(section, 0, 0.0, true);
+    const bool hasBending = (load.ZOffset() == 0.0 || IsUsable(p.iyy * alpha)) &&
+                            (load.YOffset() == 0.0 || IsUsable(p.izz * alpha));
+    if (!IsUsable(e) || !IsUsable(alpha) || !IsUsable(p.area * alpha) || !hasBending) {
+        Skip(L"element " + std::to_wstring(element) +
+             L" has no modulus, expansion coefficient, area or second moment");
+        return;
+    }
+    const double strainForce = ForcePerE(load, e, p.area, m_model->ElemLen(element)) / alpha;
+    const double z = load.ZOffset() != 0.0 ? -strainForce * load.ZOffset() / p.iyy : 0.0;
+    const double y = load.YOffset() != 0.0 ? strainForce * load.YOffset() / p.izz : 0.0;
+    WriteTemprb(load.LoadCase(), element, -strainForce / p.area, z, y);
+}
+
+bool CNasFile::WriteBeamTemperatures() {
+    StartSection("Beam temperature loads");
+    for (const int number : m_model->BeamThermalLoadTable().Numbers()) {
+        const Data::CBeamThermalLoad& load = m_model->BeamThermalLoad(number);
+        SetSubject(L"Beam thermal load", number);
+        if (!HasValidCase(load)) {
+            continue;
+        }
+        for (const int element : LoadedBeams(load, true)) {
+            WriteBeamTemperature(load, element);
+        }
+    }
+    return true;
+}
+
+/// A gradient g between two places is the temperature T1 - g pos1 at the centroid, beside the
+/// uniform part; along the host's y it has the other sign in the target's axes.
+void CNasFile::WriteBeamTemperature(const Data::CBeamThermalLoad& load, int element) {
+    if (load.TypeOf() == BeamThermalType::Uniform) {
+        WriteTemprb(load.LoadCase(), element, load.Value(1), 0.0, 0.0);
+        return;
+    }
+    const double depth = load.Pos(2) - load.Pos(1);
+    if (!IsUsable(depth)) {
+        Skip(L"the two places of its temperatures are the same");
+        return;
+    }
+    const double gradient = (load.Value(2) - load.Value(1)) / depth;
+    const double mean = load.Value(1) - gradient * load.Pos(1) + load.UniformPart();
+    const bool alongZ = load.TypeOf() == BeamThermalType::GradientZ;
+    WriteTemprb(load.LoadCase(), element, mean, alongZ ? gradient : 0.0,
+                alongZ || gradient == 0.0 ? 0.0 : -gradient);
+}
+
+/// Temperature and gradients along the target's y and z, alike at both ends.
+void CNasFile::WriteTemprb(int loadCase, int element, double t, double gradient1,
+                           double gradient2) {
+    StartCard("TEMPRB");
+    AddInt(loadCase);
+    AddInt(element);
+    for (const double value : {t, t, gradient1, gradient1, gradient2, gradient2}) {
+        AddReal(value);
+    }
+    EndCard();
+}
+
+bool CNasFile::WriteInPlaneLoads() {
+    StartSection("In-plane loads - transferred as thermal loads");
+    for (const int number : m_model->InPlaneLoadTable().Numbers()) {
+        const Data::CInPlaneLoad& load = m_model->InPlaneLoad(number);
+        SetSubject(L"In-plane load", number);
+        if (!HasValidCase(load)) {
+            continue;
+        }
+        if (load.TypeOf() == AxialLoadType::LackOfFit) {
+            Skip(L"a plane has no lack of fit");
+            continue;
+        }
+        const std::vector<int> elements = LoadedElements(load, 2);
+        if (elements.empty()) {
+            Skip(L"it loads no plane of the file");
+        }
+        for (const int element : elements) {
+            WriteInPlaneLoad(load, element);
+        }
+    }
+    return true;
+}
+
+/// A force N per length at the offset e of a strip of thickness t: T = -N / (E t alpha), and with
+/// the second moment t^3 / 12 of the strip T' = -12 N e / (E t^3 alpha). A strain is N / (E t).
+void CNasFile::WriteInPlaneLoad(const Data::CInPlaneLoad& load, int element) {
+    const Data::CProp2D& property = m_model->Prop2D(m_model->Elem(element).Property());
+    const Data::CMatAnal* material = m_model->FindMaterial(property.Material());
+    const double e = material != nullptr ? material->E() : 0.0;
+    const double alpha = material != nullptr ? material->Alpha() : 0.0;
+    const double t = property.InplaneThickness();
+    if (!IsUsable(e) || !IsUsable(alpha) || !IsUsable(t * t * alpha)) {
+        Skip(L"element " + std::to_wstring(element) +
+             L" has no modulus, expansion coefficient or thickness");
+        return;
+    }
+    const double strain =
+        load.TypeOf() == AxialLoadType::Strain ? load.Value() : load.Value() / (e * t);
+    const double gradient =
+        load.Offset() != 0.0 ? -12.0 * strain * load.Offset() / (t * t * alpha) : 0.0;
+    WriteTempp1(load.LoadCase(), element, -strain / alpha, gradient);
+}
+
+bool CNasFile::WriteFaceTemperatures() {
+    StartSection("Face temperature");
+    for (const int number : m_model->FaceThermalLoadTable().Numbers()) {
+        const Data::CFaceThermalLoad& load = m_model->FaceThermalLoad(number);
+        SetSubject(L"Face thermal load", number);
+        if (!HasValidCase(load)) {
+            continue;
+        }
+        const std::vector<int> elements = LoadedElements(load, 2);
+        if (elements.empty()) {
+            Skip(L"it loads no plane of the file");
+        }
+        for (const int element : elements) {
+            const Data::CElement& record = m_model->Elem(element);
+            const Faces faces = FacesOf(load, CornerCount(record.Type()));
+            const double t = m_model->Prop2D(record.Property()).InplaneThickness();
+            WriteTempp1(load.LoadCase(), element, 0.5 * (faces.top + faces.bottom),
+                        (faces.top - faces.bottom) / t);
+        }
+    }
+    return true;
+}
+
+void CNasFile::WriteTempp1(int loadCase, int element, double mean, double gradient) {
+    StartCard("TEMPP1");
+    AddInt(loadCase);
+    AddInt(element);
+    AddReal(mean);
+    AddReal(gradient);
+    EndCard();
+}
+
+}  // namespace Tevra
