@@ -48,7 +48,7 @@ public:
         const auto length = static_cast<std::size_t>(end - text);
         char* const at = Room();
         std::fill_n(at, 16, ' ');
-        std::copy(text, end, at + 16 - std::min<std::size_t>(length, 16));
+        std::copy_n(text, length, at + 16 - std::min<std::size_t>(length, 16));
         m_used += 16;
     }
     void Text(std::string_view text) {

@@ -12,7 +12,7 @@ namespace Tevra {
 namespace {
 
 /// Groups of loads by the set that a subcase selects them with.
-enum LoadKinds : unsigned { kMechanical = 1, kThermal = 2, kGravity = 4 };
+enum LoadKinds : unsigned { kMechanical = 1, kThermal = 2, kSelfWeight = 4 };
 
 constexpr std::wstring_view kConflicts =
     L"WARNING\n\nLoading and gravity options conflict in the following case(s).\nGravity loads "
@@ -98,7 +98,7 @@ bool CNasFile::WriteSubcases() {
     std::wstring warning(kConflicts);
     int conflicts = 0;
     for (int i = 1; i <= m_model->HighestLoadCase(); ++i) {
-        const bool moved = HasLoad(i, kMechanical) && HasLoad(i, kGravity);
+        const bool moved = HasLoad(i, kMechanical) && HasLoad(i, kSelfWeight);
         if (moved) {
             ++conflicts;
             warning += std::to_wstring(i) + (conflicts % 10 == 0 ? L"  \n" : L"  ");
@@ -106,7 +106,7 @@ bool CNasFile::WriteSubcases() {
         m_gravityCases.push_back(moved ? ++next : i);
         WriteSubcase(
             i, m_model->LoadCaseTitleExist(i) ? m_model->LoadCaseTitle(i).Name() : CaseName(i));
-        if (HasLoad(i, kMechanical | kGravity)) {
+        if (HasLoad(i, kMechanical | kSelfWeight)) {
             m_out->Append("LOAD = ").Int(i).EndLine();
         }
         if (HasLoad(i, kThermal)) {
@@ -177,7 +177,7 @@ void CNasFile::FindLoadKinds() {
     add(m_model->BeamThermalLoadTable(), kThermal);
     add(m_model->InPlaneLoadTable(), kThermal);
     add(m_model->FaceThermalLoadTable(), kThermal);
-    add(m_model->GravityLoadTable(), kGravity);
+    add(m_model->GravityLoadTable(), kSelfWeight);
 }
 
 bool CNasFile::HasLoad(int loadCase, unsigned kinds) const {

@@ -137,7 +137,7 @@ void CNasFile::WriteFaceLoad(const Data::CFaceLoad& load, int element) {
     double factor = isPoint ? 1.0 / Length(area) : 1.0;
     if (load.IsProjected() && !isPoint) {
         const Vec3<double> at = CentreOf(*m_model, record, face);
-        const Vec3<double>& along =
+        const Vec3<double> along =
             LoadAxes(*m_model, load, element, at).AxisVec(load.GetDirection());
         factor *= std::abs(Dot(along, area)) / Length(area);
     }

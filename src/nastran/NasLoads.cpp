@@ -7,13 +7,6 @@
 
 namespace Tevra {
 
-namespace {
-
-/// Standard acceleration of gravity, m/s2.
-constexpr double kGravityAcceleration = 9.80665;
-
-}  // namespace
-
 bool CNasFile::WriteLoads() {
     return !m_exportLoads ||
            (WriteReferenceTemperature() && WriteSettlements() && WriteAppliedDisplacements() &&
@@ -107,7 +100,7 @@ bool CNasFile::WriteGravity() {
         StartCard("GRAV");
         AddInt(GravityCase(load.LoadCase()));
         AddInt(0);
-        AddReal(kGravityAcceleration);
+        AddReal(kGravity);
         AddReals(load.Value());
         EndCard();
     }
