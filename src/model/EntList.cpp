@@ -27,8 +27,7 @@ std::shared_ptr<const ListTerms> NoTerms() {
 
 CEntList::CEntList() : m_terms(NoTerms()) {}
 
-CEntList::CEntList(std::wstring_view text, SelType type)
-    : m_type(type), m_text(Text::Trim(text)) {
+CEntList::CEntList(std::wstring_view text, SelType type) : m_type(type), m_text(Text::Trim(text)) {
     m_terms = m_text.empty() ? NoTerms() : Read(m_text, type);
 }
 
