@@ -27,6 +27,21 @@ char* Copy(char* out, const char* from, const char* to) {
     return out + (to - from);
 }
 
+constexpr int kBlankCount = 16;
+constexpr const char* kBlanks = "                ";
+
+/// Writes the digits of a number so that they end before `last`; false when they do not fit.
+bool DigitsUpTo(const char* first, char* last, std::uint64_t number) {
+    do {
+        if (last == first) {
+            return false;
+        }
+        *--last = static_cast<char>('0' + number % 10);
+        number /= 10;
+    } while (number != 0);
+    return true;
+}
+
 /// Removes the character `fromEnd` places before the end (1 = the last one) if it is `c`.
 char* DeleteIf(char* first, char* last, std::ptrdiff_t fromEnd, char c) {
     if (last - first < fromEnd || *(last - fromEnd) != c) {
@@ -80,6 +95,13 @@ char* ShortText(char* out, double value) {
 }  // namespace
 
 char* AppendIntField(char* out, long long value, int width) {
+    if (value >= 0 && width > 0 && width <= kBlankCount) {
+        // The digits from the last to the first, into a field that is already blank.
+        std::memcpy(out, kBlanks, static_cast<std::size_t>(width));
+        if (DigitsUpTo(out, out + width, static_cast<std::uint64_t>(value))) {
+            return out + width;
+        }
+    }
     width = std::clamp(width, -kMaxFieldWidth, kMaxFieldWidth);
     char* const end = AppendInt(out, value, width);
     const int length = static_cast<int>(end - out);

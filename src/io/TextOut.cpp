@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <utility>
 
 #include "io/Text.h"
 #include "platform/text/Utf8.h"
@@ -17,30 +18,53 @@ constexpr std::size_t kCapacity = std::size_t{64} * 1024;
 TextOut::TextOut(std::ostream& stream)
     : m_stream(stream),
       m_buffer(std::make_unique_for_overwrite<char[]>(kCapacity)),
-      m_end(m_buffer.get()) {}
+      m_end(m_buffer.get()),
+      m_last(m_end + kCapacity),
+      m_piece(m_end) {}
 
+/// Hands over what stands before the piece, or everything, and moves the rest to the front.
 void TextOut::HandOver() {
-    m_stream.write(m_buffer.get(), m_end - m_buffer.get());
-    m_end = m_buffer.get();
+    char* const first = m_buffer.get();
+    char* const until = m_holds ? m_piece : m_end;
+    m_stream.write(first, until - first);
+    std::memmove(first, until, static_cast<std::size_t>(m_end - until));
+    m_end = first + (m_end - until);
+    m_piece = first;
 }
 
-char* TextOut::Room() {
-    if (kCapacity - static_cast<std::size_t>(m_end - m_buffer.get()) < kMaxNumberText) {
-        HandOver();
+/// A piece larger than the buffer is held in a larger one.
+void TextOut::Grow() {
+    const std::ptrdiff_t used = m_end - m_buffer.get();
+    const std::ptrdiff_t piece = m_piece - m_buffer.get();
+    const std::ptrdiff_t capacity = 2 * (m_last - m_buffer.get());
+    auto larger = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(capacity));
+    std::memcpy(larger.get(), m_buffer.get(), static_cast<std::size_t>(used));
+    m_buffer = std::move(larger);
+    m_end = m_buffer.get() + used;
+    m_piece = m_buffer.get() + piece;
+    m_last = m_buffer.get() + capacity;
+}
+
+void TextOut::MakeRoom() {
+    HandOver();
+    if (m_last - m_end < kMaxNumberText) {
+        Grow();
     }
-    return m_end;
+}
+
+void TextOut::BeginPiece() {
+    Room();
+    m_piece = m_end;
+    m_holds = true;
 }
 
 TextOut& TextOut::Append(std::string_view text) {
     while (!text.empty()) {
-        const auto used = static_cast<std::size_t>(m_end - m_buffer.get());
-        const std::size_t count = std::min(text.size(), kCapacity - used);
+        const auto room = static_cast<std::size_t>(m_last - Room());
+        const std::size_t count = std::min(text.size(), room);
         std::memcpy(m_end, text.data(), count);
         m_end += count;
         text.remove_prefix(count);
-        if (used + count == kCapacity) {
-            HandOver();
-        }
     }
     return *this;
 }
@@ -52,8 +76,11 @@ TextOut& TextOut::Append(char c) {
 }
 
 TextOut& TextOut::Fill(int count, char c) {
-    for (int i = 0; i < count; ++i) {
-        Append(c);
+    while (count > 0) {
+        const int some = std::min(count, kMaxNumberText);
+        std::memset(Room(), c, static_cast<std::size_t>(some));
+        m_end += some;
+        count -= some;
     }
     return *this;
 }
@@ -113,6 +140,7 @@ TextOut& TextOut::RealField(double value, int width, bool signSpace) {
 }
 
 bool TextOut::Flush() {
+    m_holds = false;
     HandOver();
     m_stream.flush();
     return Good();

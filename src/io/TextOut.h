@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -39,6 +40,14 @@ public:
     TextOut& IntField(long long value, int width);
     TextOut& RealField(double value, int width, bool signSpace = false);
 
+    /// Begins a piece of text that is handed over whole or taken back.
+    void BeginPiece();
+    /// Characters of the piece so far.
+    std::size_t PieceSize() const { return static_cast<std::size_t>(m_end - m_piece); }
+    /// Drops what was appended since BeginPiece().
+    void TakeBackPiece() { m_end = m_piece; }
+    void EndPiece() { m_holds = false; }
+
     /// Hands everything to the stream and flushes it; whether the stream is good.
     bool Flush();
 
@@ -47,14 +56,24 @@ public:
 
 private:
     /// Makes sure of room for one number.
-    char* Room();
+    char* Room() {
+        if (m_last - m_end < kMaxNumberText) {
+            MakeRoom();
+        }
+        return m_end;
+    }
+    void MakeRoom();
     void HandOver();
+    void Grow();
     template <class Write>
     TextOut& Number(Write&& write);
 
     std::ostream& m_stream;
     std::unique_ptr<char[]> m_buffer;
     char* m_end;
+    char* m_last;   ///< end of the buffer
+    char* m_piece;  ///< begin of the piece
+    bool m_holds = false;
     std::string m_text;
 };
 

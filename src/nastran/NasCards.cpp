@@ -1,7 +1,6 @@
-#include <algorithm>
+#include <array>
 #include <cmath>
 
-#include "io/CardFields.h"
 #include "io/TextOut.h"
 #include "nastran/NasFile.h"
 
@@ -12,31 +11,38 @@ namespace Tevra {
 
 namespace {
 
-constexpr std::size_t kNameWidth = 8;
+constexpr int kNameWidth = 8;
 constexpr std::size_t kFullLine = 72;
-/// A card longer than this goes to the file in pieces.
-constexpr std::size_t kLongCard = 16384;
 
-/// A count in letters: 1 is A, 26 is Z, 27 is AA.
-void AppendLetters(std::string& line, int count) {
-    std::array<char, 8> letters{};
-    auto first = letters.end();
-    for (int n = count; n > 0; n = (n - 1) / 26) {
-        *--first = static_cast<char>('A' + (n - 1) % 26);
+/// A continuation marker: its first character and a count in letters (1 is A, 26 is Z, 27 is AA).
+class Marker {
+public:
+    Marker(char first, int count) {
+        for (int n = count; n > 0; n = (n - 1) / 26) {
+            *--m_first = static_cast<char>('A' + (n - 1) % 26);
+        }
+        *--m_first = first;
     }
-    line.append(first, letters.end());
-}
+    std::string_view Text() const {
+        return {m_first, static_cast<std::size_t>(m_letters.data() + m_letters.size() - m_first)};
+    }
+
+private:
+    std::array<char, 8> m_letters{};
+    char* m_first = m_letters.data() + m_letters.size();
+};
 
 }  // namespace
 
 void CNasFile::StartCard(std::string_view name) {
-    m_line.assign(name);
+    m_out->BeginPiece();
+    m_out->Append(name);
     if (m_largeField) {
-        m_line += '*';
+        m_out->Append('*');
     }
-    m_line.resize(std::max(m_line.size(), kNameWidth), ' ');
+    m_out->Fill(kNameWidth - static_cast<int>(m_out->PieceSize()));
     m_lineStart = 0;
-    m_fieldWidth = static_cast<std::size_t>(FieldWidth());
+    m_fieldWidth = FieldWidth();
     m_firstContinuation = m_continuations;
     m_hasBadNumber = false;
 }
@@ -44,52 +50,40 @@ void CNasFile::StartCard(std::string_view name) {
 /// A line that a field has made longer than a line should be is never full: the card then goes on
 /// along it.
 void CNasFile::CheckContinuation() {
-    if (m_line.size() - m_lineStart == kFullLine) {
+    if (m_out->PieceSize() - m_lineStart == kFullLine) {
         ContinueLine();
     }
 }
 
 void CNasFile::ContinueLine() {
     ++m_continuations;
-    const std::size_t marker = m_line.size();
-    m_line += m_largeField ? '*' : '+';
-    AppendLetters(m_line, m_continuations);
-    const std::string text = m_line.substr(marker);
-    m_line += '\n';
-    if (m_line.size() > kLongCard && !m_hasBadNumber) {
-        m_out->Append(m_line);
-        m_line.clear();
-        m_firstContinuation = m_continuations;
-    }
-    m_lineStart = m_line.size();
-    m_line += text;
-    m_line.resize(std::max(m_line.size(), m_lineStart + kNameWidth), ' ');
+    const Marker marker(m_largeField ? '*' : '+', m_continuations);
+    m_out->Append(marker.Text()).EndLine();
+    m_lineStart = m_out->PieceSize();
+    m_out->Append(marker.Text()).Fill(kNameWidth - static_cast<int>(marker.Text().size()));
 }
 
 void CNasFile::AddBlankFields(int count) {
     for (int i = 0; i < count; ++i) {
         CheckContinuation();
-        m_line.append(m_fieldWidth, ' ');
+        m_out->Fill(m_fieldWidth);
     }
 }
 
 void CNasFile::AddTextField(std::string_view text) {
     CheckContinuation();
-    m_line += text;
-    if (text.size() < m_fieldWidth) {
-        m_line.append(m_fieldWidth - text.size(), ' ');
-    }
+    m_out->Append(text).Fill(m_fieldWidth - static_cast<int>(text.size()));
 }
 
 void CNasFile::AddInt(long long value) {
     CheckContinuation();
-    AppendIntField(m_line, value, static_cast<int>(m_fieldWidth));
+    m_out->IntField(value, m_fieldWidth);
 }
 
 void CNasFile::AddReal(double value) {
     CheckContinuation();
     m_hasBadNumber = m_hasBadNumber || !std::isfinite(value);
-    AppendRealField(m_line, value, static_cast<int>(m_fieldWidth));
+    m_out->RealField(value, m_fieldWidth);
 }
 
 void CNasFile::AddReals(const Vec3<double>& v) {
@@ -100,12 +94,14 @@ void CNasFile::AddReals(const Vec3<double>& v) {
 
 void CNasFile::EndCard() {
     if (m_hasBadNumber) {
+        m_out->TakeBackPiece();
+        m_out->EndPiece();
         m_continuations = m_firstContinuation;
         Skip(L"a value is not a number");
         return;
     }
-    m_line += '\n';
-    m_out->Append(m_line);
+    m_out->EndLine();
+    m_out->EndPiece();
 }
 
 void CNasFile::StartSection(std::string_view title) {

@@ -40,6 +40,7 @@ bool CNasFile::Write() {
     TextOut out(*m_stream);
     m_out = &out;
     m_elementNumber = m_model->HighestElem();
+    FindWrittenNodes();
     FindSectionUses();
 
     using Section = bool (CNasFile::*)();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "io/StreamFile.h"
+#include "model/BitSet.h"
 #include "model/Case.h"
 #include "model/Element.h"
 #include "model/Load.h"
@@ -92,6 +93,7 @@ private:
     // --- what is written: records that are active, and whose references can be resolved
     bool NodePasses(int node) const;
     bool IsNodeWritten(int node) const;
+    void FindWrittenNodes();
     /// Why an element is not written; null when it is.
     const wchar_t* ElementFault(int element) const;
     const wchar_t* NodesFault(const Data::CElement& record) const;
@@ -218,16 +220,16 @@ private:
     std::array<bool, 2> m_hostFlags{true, true};  ///< kept for the host
     bool m_exportLoads = true;
     std::wstring m_bucklingDescription;
-    std::string m_line;  ///< the card under construction
     CAnalysisCase m_bucklingCase{L"", 1, L""};
     int m_bucklingSet = 0;
     std::vector<int> m_gravityCases;      ///< by load case - 1
     std::vector<int> m_combinationCases;  ///< sets of the exported combinations
     std::wstring m_report;
 
-    TextOut* m_out = nullptr;  ///< valid within Write
-    std::size_t m_lineStart = 0;
-    std::size_t m_fieldWidth = 16;
+    TextOut* m_out = nullptr;     ///< valid within Write
+    std::size_t m_lineStart = 0;  ///< where the line of the card begins within the card
+    int m_fieldWidth = 16;
+    CBitSet m_writtenNodes;
     int m_firstContinuation = 0;  ///< markers given before the card
     bool m_hasBadNumber = false;  ///< in the card
     const wchar_t* m_subjectKind = L"";

@@ -38,7 +38,15 @@ bool CNasFile::NodePasses(int node) const {
 }
 
 bool CNasFile::IsNodeWritten(int node) const {
-    return m_model->NodeExist(node) && NodePasses(node) && IsFinite(m_model->Node(node).Position());
+    return m_writtenNodes.Test(node);
+}
+
+void CNasFile::FindWrittenNodes() {
+    m_writtenNodes = CBitSet(m_model->HighestNode());
+    for (const int number : m_model->NodeTable().Numbers()) {
+        m_writtenNodes.Set(number,
+                           NodePasses(number) && IsFinite(m_model->Node(number).Position()));
+    }
 }
 
 int CNasFile::CoordinateSystem(int axis) {
