@@ -12,7 +12,7 @@ using Tevra::TestSupport::DeckReader;
 
 void AppendInt(std::string& text, int value) {
     char field[16];
-    std::snprintf(field, sizeof field, "%8d", value);
+    (void)std::snprintf(field, sizeof field, "%8d", value);
     text += field;
 }
 
@@ -20,7 +20,7 @@ void AppendNode(std::string& text, int number) {
     AppendInt(text, number);
     for (const double scale : {0.1234567, -12.34567, 1.234567e-3}) {
         char field[24];
-        std::snprintf(field, sizeof field, "%16.9E", scale * number);
+        (void)std::snprintf(field, sizeof field, "%16.9E", scale * number);
         text += field;
     }
     text += "       0       0\n";

@@ -1,8 +1,8 @@
 #include <benchmark/benchmark.h>
 #include <charconv>
 #include <chrono>
-#include <cstdio>
 #include <ctime>
+#include <filesystem>
 #include <fstream>
 #include <memory>
 
@@ -16,7 +16,7 @@ namespace {
 
 using namespace Tevra;
 
-constexpr int kNodes = 300'000;
+constexpr int kNodes = 1'000'000;
 constexpr const char* kFile = "/tmp/vyn_bench_nastran.dat";
 
 const CVynData& Block() {
@@ -123,7 +123,7 @@ void NastranWriter(benchmark::State& state) {
                      }));
         plain = std::max(plain, Rate([&model] { WritePlain(model); }));
     }
-    std::remove(kFile);
+    std::filesystem::remove(kFile);
     state.counters["writer MB/s"] = writer / 1e6;
     state.counters["plain MB/s"] = plain / 1e6;
     state.counters["ratio"] = writer / plain;

@@ -5,9 +5,9 @@
 #include "dyna/DynaCard.h"
 #include "dyna/DynaCodes.h"
 #include "dyna/DynaImport.h"
-#include "dyna/DynaLines.h"
 #include "dyna/DynaShapes.h"
 #include "model/VynData.h"
+#include "platform/text/LineReader.h"
 
 namespace Tevra {
 
@@ -50,7 +50,7 @@ Data::CElemConnect CDynaImport::TakeConnect(CDynaCard& card) {
     return connect;
 }
 
-bool CDynaImport::Node(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::Node(CLineReader& lines, std::string_view& line) {
     while (NextEntry(lines, line)) {
         CDynaCard card(line);
         const int number = card.Number();
@@ -71,7 +71,7 @@ bool CDynaImport::Node(CDynaLines& lines, std::string_view& line) {
     return m_error.empty();
 }
 
-bool CDynaImport::Beam(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::Beam(CLineReader& lines, std::string_view& line) {
     std::vector<int> ends(2);
     while (NextEntry(lines, line)) {
         CDynaCard card(line);
@@ -97,7 +97,7 @@ bool CDynaImport::Beam(CDynaLines& lines, std::string_view& line) {
     return m_error.empty();
 }
 
-bool CDynaImport::Shell(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::Shell(CLineReader& lines, std::string_view& line) {
     DynaShape shape;
     while (NextEntry(lines, line)) {
         CDynaCard card(line);
@@ -118,7 +118,7 @@ bool CDynaImport::Shell(CDynaLines& lines, std::string_view& line) {
     return m_error.empty();
 }
 
-bool CDynaImport::Solid(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::Solid(CLineReader& lines, std::string_view& line) {
     DynaShape shape;
     DynaNodes nodes{};
     while (NextEntry(lines, line)) {
@@ -137,7 +137,7 @@ bool CDynaImport::Solid(CDynaLines& lines, std::string_view& line) {
 }
 
 /// The nodes of a solid from the rest of its line, or from the next line when there is no rest.
-bool CDynaImport::SolidNodes(CDynaLines& lines, std::string_view& line, CDynaCard card,
+bool CDynaImport::SolidNodes(CLineReader& lines, std::string_view& line, CDynaCard card,
                              DynaNodes& nodes) {
     const bool isOneLine = line.size() > kEndOfSolidHead;
     if (!isOneLine) {
@@ -151,7 +151,7 @@ bool CDynaImport::SolidNodes(CDynaLines& lines, std::string_view& line, CDynaCar
     return IsGood(card) && (!hasMore || Fail("the solid has more than eight nodes"));
 }
 
-bool CDynaImport::Spring(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::Spring(CLineReader& lines, std::string_view& line) {
     std::vector<int> ends;
     while (NextEntry(lines, line)) {
         CDynaCard card(line);
@@ -170,7 +170,7 @@ bool CDynaImport::Spring(CDynaLines& lines, std::string_view& line) {
     return m_error.empty();
 }
 
-bool CDynaImport::Mass(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::Mass(CLineReader& lines, std::string_view& line) {
     while (NextEntry(lines, line)) {
         CDynaCard card(line);
         card.Number();
@@ -184,7 +184,7 @@ bool CDynaImport::Mass(CDynaLines& lines, std::string_view& line) {
     return m_error.empty();
 }
 
-bool CDynaImport::Inertia(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::Inertia(CLineReader& lines, std::string_view& line) {
     while (NextEntry(lines, line)) {
         CDynaCard head(line);
         head.Number();

@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "dyna/DynaCard.h"
-#include "dyna/DynaLines.h"
 #include "model/VynData.h"
 #include "platform/text/Ascii.h"
 #include "platform/text/HostPath.h"
+#include "platform/text/LineReader.h"
 
 namespace Tevra {
 
@@ -56,11 +56,11 @@ bool CDynaImport::OpenRead(const std::wstring& path) {
     if (!file.is_open()) {
         return Fail("the file can't be opened");
     }
-    CDynaLines lines(file);
+    CLineReader lines(file);
     return Read(lines);
 }
 
-bool CDynaImport::Read(CDynaLines& lines) {
+bool CDynaImport::Read(CLineReader& lines) {
     if (m_model == nullptr) {
         return Fail("there is no model");
     }
@@ -73,7 +73,7 @@ bool CDynaImport::Read(CDynaLines& lines) {
     return lines.Error().empty() ? read : Fail(std::string(lines.Error()));
 }
 
-bool CDynaImport::ReadKeywords(CDynaLines& lines) {
+bool CDynaImport::ReadKeywords(CLineReader& lines) {
     std::string_view line;
     bool more = lines.Next(line);
     while (more) {
@@ -87,10 +87,10 @@ bool CDynaImport::ReadKeywords(CDynaLines& lines) {
     return true;
 }
 
-bool CDynaImport::ReadBlock(CDynaLines& lines, std::string_view& line, bool& known) {
+bool CDynaImport::ReadBlock(CLineReader& lines, std::string_view& line, bool& known) {
     struct Block {
         std::string_view keyword;
-        bool (CDynaImport::*read)(CDynaLines&, std::string_view&);
+        bool (CDynaImport::*read)(CLineReader&, std::string_view&);
     };
     static constexpr std::array kBlocks = {
         Block{"*NODE", &CDynaImport::Node},
@@ -118,7 +118,7 @@ bool CDynaImport::ReadBlock(CDynaLines& lines, std::string_view& line, bool& kno
     return HasStandardFields(text, error) || Fail(std::move(error));
 }
 
-bool CDynaImport::NextData(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::NextData(CLineReader& lines, std::string_view& line) {
     while (lines.Next(line)) {
         if (!IsComment(line)) {
             return !IsKeyword(line);
@@ -127,7 +127,7 @@ bool CDynaImport::NextData(CDynaLines& lines, std::string_view& line) {
     return false;
 }
 
-bool CDynaImport::NextEntry(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::NextEntry(CLineReader& lines, std::string_view& line) {
     while (NextData(lines, line)) {
         if (line.empty()) {
             continue;
@@ -138,14 +138,14 @@ bool CDynaImport::NextEntry(CDynaLines& lines, std::string_view& line) {
     return false;
 }
 
-bool CDynaImport::NextOfEntry(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::NextOfEntry(CLineReader& lines, std::string_view& line) {
     if (NextEntry(lines, line)) {
         return true;
     }
     return m_error.empty() && Fail("the entry above lacks its second line");
 }
 
-bool CDynaImport::SkipHeading(CDynaLines& lines, std::string_view& line) {
+bool CDynaImport::SkipHeading(CLineReader& lines, std::string_view& line) {
     if (!m_form.hasHeading) {
         return true;
     }
@@ -158,7 +158,7 @@ bool CDynaImport::SkipHeading(CDynaLines& lines, std::string_view& line) {
     return true;
 }
 
-bool CDynaImport::SkipFurther(CDynaLines& lines, std::string_view& line, bool hasMidSideNodes) {
+bool CDynaImport::SkipFurther(CLineReader& lines, std::string_view& line, bool hasMidSideNodes) {
     for (const DynaFurtherLine& further : DynaFurtherLines()) {
         if ((m_form.furtherLines & further.bit) == 0 ||
             (further.withMidSideNodes && !hasMidSideNodes)) {

@@ -10,7 +10,7 @@
 namespace Tevra {
 
 class CDynaCard;
-class CDynaLines;
+class CLineReader;
 class CVynData;
 
 namespace Data {
@@ -60,36 +60,36 @@ public:
 
 protected:
     /// The keyword loop: reads all lines.
-    bool Read(CDynaLines& lines);
+    bool Read(CLineReader& lines);
 
     // One keyword block each: `line` is the keyword line, and afterwards the line that ended the
     // block, empty at the end of the file.
-    bool Node(CDynaLines& lines, std::string_view& line);
-    bool Beam(CDynaLines& lines, std::string_view& line);
-    bool Shell(CDynaLines& lines, std::string_view& line);
-    bool Solid(CDynaLines& lines, std::string_view& line);
-    bool Spring(CDynaLines& lines, std::string_view& line);
-    bool Mass(CDynaLines& lines, std::string_view& line);
-    bool Inertia(CDynaLines& lines, std::string_view& line);
+    bool Node(CLineReader& lines, std::string_view& line);
+    bool Beam(CLineReader& lines, std::string_view& line);
+    bool Shell(CLineReader& lines, std::string_view& line);
+    bool Solid(CLineReader& lines, std::string_view& line);
+    bool Spring(CLineReader& lines, std::string_view& line);
+    bool Mass(CLineReader& lines, std::string_view& line);
+    bool Inertia(CLineReader& lines, std::string_view& line);
 
     /// Sets the release flags of an element's end from the codes 0 to 7 for translations and
     /// rotations; other codes release nothing.
     static void SetConnect(Data::CElemConnect& connect, int translational, int rotational);
 
 private:
-    bool ReadKeywords(CDynaLines& lines);
-    bool ReadBlock(CDynaLines& lines, std::string_view& line, bool& known);
+    bool ReadKeywords(CLineReader& lines);
+    bool ReadBlock(CLineReader& lines, std::string_view& line, bool& known);
     /// The next line that is no comment; false where a keyword or the end of the file comes first.
-    bool NextData(CDynaLines& lines, std::string_view& line);
+    bool NextData(CLineReader& lines, std::string_view& line);
     /// The next line that begins an entry; false at the end of the block, and with an error for
     /// lines without fixed columns.
-    bool NextEntry(CDynaLines& lines, std::string_view& line);
+    bool NextEntry(CLineReader& lines, std::string_view& line);
     /// The second line of an entry; false with an error when the block ends instead.
-    bool NextOfEntry(CDynaLines& lines, std::string_view& line);
-    bool SkipHeading(CDynaLines& lines, std::string_view& line);
+    bool NextOfEntry(CLineReader& lines, std::string_view& line);
+    bool SkipHeading(CLineReader& lines, std::string_view& line);
     /// Skips what the options of the keyword put behind an entry.
-    bool SkipFurther(CDynaLines& lines, std::string_view& line, bool hasMidSideNodes = false);
-    bool SolidNodes(CDynaLines& lines, std::string_view& line, CDynaCard card, DynaNodes& nodes);
+    bool SkipFurther(CLineReader& lines, std::string_view& line, bool hasMidSideNodes = false);
+    bool SolidNodes(CLineReader& lines, std::string_view& line, CDynaCard card, DynaNodes& nodes);
     static Data::CElemConnect TakeConnect(CDynaCard& card);
     bool IsGood(const CDynaCard& card);
     bool Fail(std::string reason);

@@ -22,9 +22,6 @@ enum class FaceThermalType : int { Uniform = 1, Gradient = 2, General = 3 };
 inline constexpr int kGlobalAxis = 0;
 inline constexpr int kLocalAxis = -1;  ///< of the element, or of the node for node loads
 
-/// Acceleration that gravity loads are factors of, m/s2.
-inline constexpr double kGravity = 9.80665;
-
 namespace Data {
 
 /// What all loads share: a name, the load case and the loaded entities.

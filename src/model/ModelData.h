@@ -85,6 +85,8 @@
 
 namespace Tevra {
 
+class QuorlData;
+
 // ModelData.cpp makes what these tables need.
 #define VYN_DECLARE_TABLE_CLASS(Kind, Record) extern template class NumberedTable<Record>;
 VYN_RECORD_KINDS(VYN_DECLARE_TABLE_CLASS)
@@ -275,6 +277,14 @@ public:
     void SetRaftMindLinOption(int option) {
         m_raft.mindlinOption = option;
     }
+
+    /// Replaces the raft settings and all soil records but the rectangular loads by those of the
+    /// pile-settlement program.
+    void ProcessQuorlData(const QuorlData& data);
+    /// Deletes the rectangular loads on the soil, and sets those of the pile-settlement program.
+    void ReplaceSoilRectLoads(const QuorlData& data);
+    /// Removes all soil records; the raft settings stay.
+    void DeleteSoilData();
 
     /// Number of user axes, of sections.
     int NumUserAxis() const {

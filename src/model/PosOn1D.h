@@ -18,7 +18,7 @@ public:
 
     constexpr int Millionths() const { return m_millionths; }
     constexpr double Fraction() const { return static_cast<double>(m_millionths) / kWhole; }
-    constexpr auto operator<=>(const CPosOn1D&) const = default;
+    constexpr auto operator<=>(const CPosOn1D&) const = default;  // NOLINT(modernize-use-nullptr)
 
     /// Ascending, each position once.
     static void Sort(std::vector<CPosOn1D>& positions);

@@ -56,10 +56,11 @@ bool CHistory::SetRecord(int i, CHistoryRec record) {
 void CHistory::UpdateSession(CHistoryRec& record) {
     const std::tm now = Host().LocalTime();
     wchar_t text[64];
-    std::swprintf(text, std::size(text), L"%04d-%02d-%02d", now.tm_year + 1900, now.tm_mon + 1,
-                  now.tm_mday);
+    (void)std::swprintf(text, std::size(text), L"%04d-%02d-%02d", now.tm_year + 1900,
+                        now.tm_mon + 1, now.tm_mday);
     record.date = text;
-    std::swprintf(text, std::size(text), L"%02d:%02d:%02d", now.tm_hour, now.tm_min, now.tm_sec);
+    (void)std::swprintf(text, std::size(text), L"%02d:%02d:%02d", now.tm_hour, now.tm_min,
+                        now.tm_sec);
     record.time = text;
     record.user = Host().UserName();
 }

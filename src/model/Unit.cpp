@@ -16,7 +16,6 @@ struct UnitFactor {
 constexpr double kPoundForce = 4.4482216152605;  // N, exact by definition
 constexpr double kPound = 0.45359237;            // kg, exact by definition
 constexpr double kFoot = 0.3048;                 // m, exact by definition
-constexpr double kGravity = 9.80665;             // m/s2, standard gravity
 
 constexpr UnitFactor kForce[] = {{L"N", 1.0},
                                  {L"kN", 1e-3},

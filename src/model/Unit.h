@@ -5,6 +5,9 @@
 
 namespace Tevra {
 
+/// Acceleration of standard gravity, of which gravity loads are factors, m/s2.
+inline constexpr double kGravity = 9.80665;
+
 /// The kinds of quantity that have a unit of their own.
 enum class UnitKind : int {
     Force = 1,

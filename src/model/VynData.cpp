@@ -13,7 +13,8 @@ CVynData::CVynData(const CVynData& o) : CVynData() {
     *this = o;
 }
 
-CVynData::CVynData(CVynData&& o) : CVynData() {
+// Makes the locks of the new model, which may throw as any allocation may.
+CVynData::CVynData(CVynData&& o) : CVynData() {  // NOLINT(performance-noexcept-move-constructor)
     *this = std::move(o);
 }
 
@@ -36,7 +37,8 @@ CVynData& CVynData::operator=(CVynData&& o) noexcept {
         m_dataLock = o.m_dataLock;
         m_derived.reset();
         static const CVynData kEmpty;
-        o = kEmpty;  // what was moved from is an empty model, whole and usable
+        o = kEmpty;  // NOLINT(bugprone-use-after-move): what was moved from is an empty model,
+                     // whole and usable
     }
     return *this;
 }

@@ -17,7 +17,7 @@ Database::Database() : m_database(nullptr, &sqlite3_close) {
 std::string Database::Execute(const std::string& statement) {
     char* message = nullptr;
     sqlite3_exec(m_database.get(), statement.c_str(), nullptr, nullptr, &message);
-    const std::string text = message != nullptr ? message : "";
+    std::string text = message != nullptr ? message : "";
     sqlite3_free(message);
     return text;
 }

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "dyna/DynaImport.h"
-#include "dyna/DynaLines.h"
 #include "model/VynData.h"
+#include "platform/text/LineReader.h"
 
 namespace Tevra::TestSupport {
 
@@ -18,7 +18,7 @@ public:
 
     bool ReadText(const std::string& text) {
         std::istringstream stream(text);
-        CDynaLines lines(stream);
+        CLineReader lines(stream);
         return Read(lines);
     }
     CVynData& Model() { return m_model; }

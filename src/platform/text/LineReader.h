@@ -6,14 +6,14 @@
 
 namespace Tevra {
 
-/// The lines of a keyword file, one after the other, as views into one buffer that slides over the
+/// The lines of a text file, one after the other, as views into one buffer that slides over the
 /// file: the memory does not grow with the file, only with its longest line.
-class CDynaLines {
+class CLineReader {
 public:
-    /// No line of a keyword file comes near this; what has a longer one is no text.
+    /// No line of the files read here comes near this; what has a longer one is no text.
     static constexpr std::size_t kLongestLine = std::size_t{16} << 20;
 
-    explicit CDynaLines(std::istream& stream);
+    explicit CLineReader(std::istream& stream);
 
     /// Goes to the next line, which comes without its line end (LF or CR LF) and without blanks at
     /// its end. The view holds until the next call. False, with an empty line, at the end of the

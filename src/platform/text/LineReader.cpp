@@ -1,4 +1,4 @@
-#include "dyna/DynaLines.h"
+#include "platform/text/LineReader.h"
 
 #include <algorithm>
 #include <cstring>
@@ -17,13 +17,13 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
-CDynaLines::CDynaLines(std::istream& stream) : m_stream(stream), m_buffer(kPiece) {
+CLineReader::CLineReader(std::istream& stream) : m_stream(stream), m_buffer(kPiece) {
     if (Refill() && std::string_view(m_buffer.data(), m_end).starts_with(kByteOrderMark)) {
         m_begin = kByteOrderMark.size();
     }
 }
 
-bool CDynaLines::Next(std::string_view& line) {
+bool CLineReader::Next(std::string_view& line) {
     std::size_t searched = 0;
     while (true) {
         const char* start = m_buffer.data() + m_begin;
@@ -45,7 +45,7 @@ bool CDynaLines::Next(std::string_view& line) {
 }
 
 /// Moves what is held to the front of the buffer and reads on behind it.
-bool CDynaLines::Refill() {
+bool CLineReader::Refill() {
     std::memmove(m_buffer.data(), m_buffer.data() + m_begin, m_end - m_begin);
     m_end -= m_begin;
     m_begin = 0;
@@ -68,7 +68,7 @@ bool CDynaLines::Refill() {
     return count > 0;
 }
 
-std::string_view CDynaLines::Take(std::size_t length) {
+std::string_view CLineReader::Take(std::size_t length) {
     const std::string_view line(m_buffer.data() + m_begin, length);
     m_begin += length;
     m_number += m_number < std::numeric_limits<int>::max() ? 1 : 0;
