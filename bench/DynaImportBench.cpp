@@ -65,7 +65,7 @@ void Read(benchmark::State& state, const Kind& kind) {
     const auto count = static_cast<int>(state.range(0));
     const std::string deck = MakeDeck(kind, count);
     std::int64_t entries = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         DeckReader reader;
         if (!reader.ReadText(deck)) {
             state.SkipWithError(reader.Error().c_str());

@@ -278,6 +278,8 @@ public:
         m_raft.mindlinOption = option;
     }
 
+    /// Whether there is any soil record.
+    bool HasSoilData() const;
     /// Replaces the raft settings and all soil records but the rectangular loads by those of the
     /// pile-settlement program.
     void ProcessQuorlData(const QuorlData& data);

@@ -84,6 +84,11 @@ void DeleteSoilDefinitions(CModelData& model) {
 
 }  // namespace
 
+bool CModelData::HasSoilData() const {
+    return HighestSoilProfile() > 0 || HighestSoilZone() > 0 || HighestSoilCurve() > 0 ||
+           HighestPileSoilProperty() > 0 || HighestPileSoilCurve() > 0 || HighestSoilRectLoad() > 0;
+}
+
 void CModelData::DeleteSoilData() {
     DeleteSoilDefinitions(*this);
     RemoveAll(m_SoilRectLoad, [this](int n) { DeleteSoilRectLoad(n); });

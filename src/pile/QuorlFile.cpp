@@ -147,9 +147,7 @@ void CQuorlFile::WarnOfLaterVersion(const Util::CVersion& version) const {
 }
 
 bool CQuorlFile::QuorlDataExist() const {
-    return m_model.HighestSoilProfile() > 0 || m_model.HighestSoilZone() > 0 ||
-           m_model.HighestSoilCurve() > 0 || m_model.HighestPileSoilProperty() > 0 ||
-           m_model.HighestPileSoilCurve() > 0 || m_model.HighestSoilRectLoad() > 0;
+    return m_model.HasSoilData();
 }
 
 void CQuorlFile::RemoveAllData() {

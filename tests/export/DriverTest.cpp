@@ -26,8 +26,9 @@ SCaseRef Comb(int number, int permutation = 0) {
 CVynData MixedModel() {
     CVynData model;
     for (int number = 1; number <= 8; ++number) {
-        model.SetNode(
-            number, Data::CNode({1.0 * (number % 2), 1.0 * (number % 4 / 2), 1.0 * (number / 4)}));
+        const int row = number % 4 / 2;
+        const int storey = number / 4;
+        model.SetNode(number, Data::CNode({1.0 * (number % 2), 1.0 * row, 1.0 * storey}));
     }
     model.SetElem(1, Data::CElement(ElementType::Beam, {1, 2}, 1));
     model.SetElem(2, Data::CElement(ElementType::Quad4, {1, 2, 3, 4}, 1));

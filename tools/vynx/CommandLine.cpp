@@ -4,6 +4,7 @@
 #include <exception>
 #include <iostream>
 #include <map>
+#include <memory>
 
 #include "vynx/Console.h"
 #include "vynx/Format.h"
@@ -28,13 +29,16 @@ std::string Ids(bool readable) {
     return ids;
 }
 
-/// Adds the options of all formats to the export command. An option that several formats have
-/// stands once; whether the chosen format has it is looked at when the format runs.
+/// The options of all formats, of their writers or of their readers, on a command. An option that
+/// several formats have stands once; whether the chosen format has it is looked at when the format
+/// runs.
 class FormatOptions {
 public:
-    void AddTo(CLI::App& command) {
+    using Specs = std::vector<OptionSpec> Format::*;
+
+    void AddTo(CLI::App& command, Specs specs) {
         for (const Format& format : Formats()) {
-            for (const OptionSpec& spec : format.options) {
+            for (const OptionSpec& spec : format.*specs) {
                 Add(command, format, spec);
             }
         }
@@ -76,47 +80,81 @@ private:
     std::map<std::string, CLI::Option*> m_options;
 };
 
-void AddExport(CLI::App& app, ExportRequest& request, FormatOptions& options) {
+/// The file that a command reads, with --from and the options of the readers.
+class SourceArguments {
+public:
+    SourceArguments(CLI::App& command, const std::string& name, const std::string& help) {
+        command.add_option(name, m_source.file, help)->required();
+        command
+            .add_option("--from", m_source.from,
+                        "Format of " + name + ", when its extension does not say")
+            ->type_name("FORMAT");
+        m_options.AddTo(command, &Format::readOptions);
+    }
+    ModelSource Given() const {
+        ModelSource source = m_source;
+        source.options = m_options.Given();
+        return source;
+    }
+
+private:
+    ModelSource m_source;
+    FormatOptions m_options;
+};
+
+void AddExport(CLI::App& app) {
     CLI::App* command = app.add_subcommand("export", "Write a model in another format");
-    command->add_option("MODEL", request.model, "Model file")->required();
-    command->add_option("--to", request.format, "Format: " + Ids(false) + ", or all")
+    const auto source = std::make_shared<SourceArguments>(*command, "MODEL", "Model file");
+    const auto request = std::make_shared<ExportRequest>();
+    const auto options = std::make_shared<FormatOptions>();
+    command->add_option("--to", request->format, "Format: " + Ids(false) + ", or all")
         ->required()
         ->type_name("FORMAT");
     command
-        ->add_option("-o,--output", request.output,
+        ->add_option("-o,--output", request->output,
                      "File to write (- is standard output), or a folder with --to all")
         ->required()
         ->type_name("PATH");
-    command->add_option("--from", request.from, "Format of MODEL, when its extension does not say")
-        ->type_name("FORMAT");
-    options.AddTo(*command);
+    options->AddTo(*command, &Format::options);
     command->footer(kFooter);
-    command->callback([&] {
-        request.options = options.Given();
-        Export(request);
+    command->callback([=] {
+        request->model = source->Given();
+        request->options = options->Given();
+        Export(*request);
     });
 }
 
-void AddImport(CLI::App& app, ImportRequest& request) {
+void AddImport(CLI::App& app) {
     CLI::App* command =
         app.add_subcommand("import", "Read a file and write it as a model document");
-    command->add_option("FILE", request.file, "File to read: " + Ids(true))->required();
-    command->add_option("-o,--output", request.output, "Document to write (- is standard output)")
+    const auto source =
+        std::make_shared<SourceArguments>(*command, "FILE", "File to read: " + Ids(true));
+    const auto request = std::make_shared<ImportRequest>();
+    command->add_option("-o,--output", request->output, "Document to write (- is standard output)")
         ->required()
         ->type_name("PATH");
-    command->add_option("--from", request.from, "Format of FILE, when its extension does not say")
-        ->type_name("FORMAT");
+    command
+        ->add_option("--into", request->into,
+                     "Model that is read first, and into which FILE is read: soil data")
+        ->type_name("MODEL");
+    CLI::Option* yes = command->add_flag("--yes")->description("Answer questions with yes");
+    const CLI::Option* no =
+        command->add_flag("--no")->description("Answer questions with no")->excludes(yes);
     command->footer(kFooter);
-    command->callback([&] { Import(request); });
+    command->callback([=] {
+        if (yes->count() + no->count() > 0) {
+            ToolHost::SetAnswer(yes->count() > 0);
+        }
+        request->source = source->Given();
+        Import(*request);
+    });
 }
 
-void AddInfo(CLI::App& app, InfoRequest& request) {
+void AddInfo(CLI::App& app) {
     CLI::App* command = app.add_subcommand("info", "Print what a model holds");
-    command->add_option("MODEL", request.model, "Model file")->required();
-    command->add_option("--from", request.from, "Format of MODEL, when its extension does not say")
-        ->type_name("FORMAT");
+    const auto source = std::make_shared<SourceArguments>(*command, "MODEL", "Model file");
     command->footer(kFooter);
-    command->callback([&] { Info(request); });
+    command->callback([=] { Info(source->Given()); });
 }
 
 void AddSample(CLI::App& app, SampleRequest& request) {
@@ -161,14 +199,10 @@ int Run(int count, const char* const* arguments) {
     app.set_version_flag("--version", "vynx " VYN_VERSION);
     app.footer(kFooter);
 
-    ExportRequest exportRequest;
-    ImportRequest importRequest;
-    InfoRequest infoRequest;
     SampleRequest sampleRequest;
-    FormatOptions options;
-    AddExport(app, exportRequest, options);
-    AddImport(app, importRequest);
-    AddInfo(app, infoRequest);
+    AddExport(app);
+    AddImport(app);
+    AddInfo(app);
     AddSample(app, sampleRequest);
     app.add_subcommand("formats", "List the formats and their options")->callback(ListFormats);
 

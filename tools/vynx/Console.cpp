@@ -54,4 +54,19 @@ void ToolHost::Log(const std::wstring& text, int level, int flag) {
     ConsoleHost::Log(m_output != nullptr ? m_output->WithTarget(text) : text, level, flag);
 }
 
+bool ToolHost::AskYesNo(const std::wstring& text) {
+    const std::string question = Tevra::Text::ToUtf8(text);
+    if (s_answer) {
+        Say(question + (*s_answer ? " [yes]" : " [no]"));
+        return *s_answer;
+    }
+    if (isatty(STDIN_FILENO) == 0) {
+        return ConsoleHost::AskYesNo(text);
+    }
+    std::string line;
+    std::cerr << question << " [y/N] " << std::flush;
+    std::getline(std::cin, line);
+    return line.starts_with('y') || line.starts_with('Y');
+}
+
 }  // namespace Vynx

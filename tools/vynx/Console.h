@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -33,11 +34,17 @@ class ToolHost : public Tevra::ConsoleHost {
 public:
     void ShowMessage(const std::wstring& text) override;
     void Log(const std::wstring& text, int level, int flag) override;
+    /// Shows the question, and reads the answer where standard input is a terminal; elsewhere it
+    /// is the one that was set, or no.
+    bool AskYesNo(const std::wstring& text) override;
+    /// Answers all questions of all hosts of this program.
+    static void SetAnswer(std::optional<bool> answer) { s_answer = answer; }
     /// The file that is being written, null for none.
     void SetOutput(const OutputFile* output) { m_output = output; }
 
 private:
     const OutputFile* m_output = nullptr;
+    inline static std::optional<bool> s_answer;
 };
 
 }  // namespace Vynx

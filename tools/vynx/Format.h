@@ -28,6 +28,7 @@ using SkippedBlocks = std::vector<std::pair<std::string, std::int64_t>>;
 struct ReadJob {
     const std::filesystem::path file;
     Tevra::CVynData& model;
+    const OptionValues& options;
     int line = 0;         ///< where a text could not be read on, 0 when no line is known
     std::string error{};  ///< why the file could not be read
     std::vector<std::string> notes{};  ///< what the user must know of a file that was read
@@ -40,7 +41,7 @@ struct Format {
     std::string_view title;
     /// Extensions of its files; files written without a name of their own get the first.
     std::vector<std::string_view> extensions;
-    std::vector<OptionSpec> options;
+    std::vector<OptionSpec> options;  ///< of the writer
     /// What a model lacks to be written with these options, as a sentence; empty when nothing.
     std::string (*lacks)(const Tevra::CVynData& model, const OptionValues& options) = nullptr;
     /// Writes the file; null for formats that are only read.
@@ -50,6 +51,10 @@ struct Format {
     bool writesFolder = false;
     /// Reads a file, leaving the reason in the job on failure; null for formats only written.
     bool (*read)(ReadJob& job) = nullptr;
+    /// Options of the reader; none has the name of an option of a writer.
+    std::vector<OptionSpec> readOptions{};
+    /// Whether its files hold a part of a model, which is read into the rest.
+    bool isPart = false;
     /// Files name properties without describing them: their numbers have no records.
     bool geometryOnly = false;
 };

@@ -4,7 +4,6 @@
 #include "platform/text/Utf8.h"
 #include "vynx/Console.h"
 #include "vynx/Failure.h"
-#include "vynx/Format.h"
 
 namespace Vynx {
 
@@ -36,12 +35,16 @@ const Format& FormatOf(const std::string& file, const std::string& from) {
 }
 
 /// Reads the file, telling where and why when that fails.
-ReadJob Read(const std::string& file, const Format& format, Tevra::CVynData& model) {
-    const Progress progress("reading " + file);
-    ReadJob job{file, model};
+ReadJob Read(const ModelSource& source, const Format& format, Tevra::CVynData& model) {
+    const OptionValues options(format.id, format.readOptions, source.options);
+    const Progress progress("reading " + source.file);
+    ReadJob job{source.file, model, options};
     if (!format.read(job)) {
         const std::string line = job.line > 0 ? ":" + std::to_string(job.line) : "";
-        throw Failure(kFailed, file + line + ": " + job.error);
+        throw Failure(kFailed, source.file + line + ": " + job.error);
+    }
+    for (const std::string& note : job.notes) {
+        Say(source.file + ": " + note);
     }
     return job;
 }
@@ -62,26 +65,31 @@ void SayDanglingReferences(const std::string& file, const Format& format,
 
 }  // namespace
 
-SkippedBlocks LoadModel(const std::string& file, const std::string& from, Tevra::CVynData& model) {
-    const Format& format = FormatOf(file, from);
-    ReadJob job = Read(file, format, model);
-    for (const std::string& note : job.notes) {
-        Say(file + ": " + note);
-    }
-    SayDanglingReferences(file, format, model);
+SkippedBlocks LoadModel(const ModelSource& source, Tevra::CVynData& model) {
+    const Format& format = FormatOf(source.file, source.from);
+    ReadJob job = Read(source, format, model);
+    SayDanglingReferences(source.file, format, model);
     return std::move(job.skipped);
 }
 
-void LoadToWrite(const std::string& file, const std::string& from, Tevra::CVynData& model) {
+void LoadToWrite(const ModelSource& source, Tevra::CVynData& model) {
     std::int64_t blocks = 0;
-    const SkippedBlocks skipped = LoadModel(file, from, model);
+    const SkippedBlocks skipped = LoadModel(source, model);
     for (const auto& [name, count] : skipped) {
         blocks += count;
     }
     if (blocks > 0) {
-        Say(file + ": skipped " + std::to_string(blocks) + " blocks of " +
+        Say(source.file + ": skipped " + std::to_string(blocks) + " blocks of " +
             std::to_string(skipped.size()) + " kinds; vynx info names them");
     }
+}
+
+void LoadInto(const ModelSource& source, Tevra::CVynData& model) {
+    const Format& format = FormatOf(source.file, source.from);
+    if (!format.isPart) {
+        throw Failure(kUsage, "--into: " + source.file + " holds a whole model");
+    }
+    Read(source, format, model);
 }
 
 }  // namespace Vynx

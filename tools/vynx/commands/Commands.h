@@ -3,15 +3,14 @@
 #include <string>
 
 #include "vynx/Failure.h"
-#include "vynx/Options.h"
+#include "vynx/ModelFile.h"
 
 /// The commands of vynx, one file each. They write what they were asked for, print what there is
 /// to say, and throw `Failure` when they can't.
 namespace Vynx {
 
 struct ExportRequest {
-    std::string model;
-    std::string from;    ///< format of the model file, empty: by extension
+    ModelSource model;
     std::string format;  ///< id, or "all"
     std::string output;  ///< file, "-", or a folder for "all"
     GivenOptions options;
@@ -19,19 +18,15 @@ struct ExportRequest {
 void Export(const ExportRequest& request);
 
 struct ImportRequest {
-    std::string file;
-    std::string from;
+    ModelSource source;
+    std::string into;  ///< model that the file is read into, empty for none
     std::string output;
 };
-/// Reads a file of any readable format and writes it as a model document.
+/// Reads a file of any readable format and writes the model as a document.
 void Import(const ImportRequest& request);
 
-struct InfoRequest {
-    std::string model;
-    std::string from;
-};
 /// Prints what a model holds.
-void Info(const InfoRequest& request);
+void Info(const ModelSource& source);
 
 struct SampleRequest {
     std::string kind;

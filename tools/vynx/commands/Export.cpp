@@ -3,7 +3,6 @@
 
 #include "vynx/Console.h"
 #include "vynx/Format.h"
-#include "vynx/ModelFile.h"
 #include "vynx/SaveModel.h"
 #include "vynx/commands/Commands.h"
 
@@ -25,8 +24,8 @@ void ExportOne(const ExportRequest& request) {
     }
     const OptionValues options(format->id, format->options, request.options);
     Tevra::CVynData model;
-    LoadToWrite(request.model, request.from, model);
-    SaveModel(*format, options, model, request.output, request.model);
+    LoadToWrite(request.model, model);
+    SaveModel(*format, options, model, request.output, request.model.file);
 }
 
 /// Writes the model in one format, if it can be, and says what came of it; false when it should
@@ -38,15 +37,15 @@ bool ExportOneOfAll(const Format& format, const ExportRequest& request, Tevra::C
         std::cout << format.id << ": skipped, " << lack << '\n';
         return true;
     }
-    const fs::path target =
-        fs::path(request.output) / (StemOf(request.model) + std::string(format.extensions.front()));
+    const fs::path target = fs::path(request.output) /
+                            (StemOf(request.model.file) + std::string(format.extensions.front()));
     std::error_code ignored;
-    if (fs::equivalent(target, request.model, ignored)) {
+    if (fs::equivalent(target, request.model.file, ignored)) {
         std::cout << format.id << ": skipped, " << target.string() << " is the model itself\n";
         return true;
     }
     try {
-        if (!WriteFormat(format, options, model, target.string(), request.model)) {
+        if (!WriteFormat(format, options, model, target.string(), request.model.file)) {
             return false;
         }
     } catch (const Failure& failure) {
@@ -63,7 +62,7 @@ void ExportAll(const ExportRequest& request) {
                                   ": --to all writes every format with its defaults");
     }
     Tevra::CVynData model;
-    LoadToWrite(request.model, request.from, model);
+    LoadToWrite(request.model, model);
     std::error_code error;
     fs::create_directories(request.output, error);
     if (!fs::is_directory(request.output)) {

@@ -4,7 +4,6 @@
 
 #include "document/ModelDocument.h"
 #include "platform/text/Utf8.h"
-#include "vynx/ModelFile.h"
 #include "vynx/commands/Commands.h"
 
 namespace Vynx {
@@ -119,10 +118,10 @@ void PrintSkipped(const SkippedBlocks& skipped) {
 
 }  // namespace
 
-void Info(const InfoRequest& request) {
+void Info(const ModelSource& source) {
     CVynData model;
-    const SkippedBlocks skipped = LoadModel(request.model, request.from, model);
-    std::cout << request.model << '\n';
+    const SkippedBlocks skipped = LoadModel(source, model);
+    std::cout << source.file << '\n';
     PrintTitles(model);
     PrintCounts(model);
     PrintElementTypes(model);

@@ -56,6 +56,9 @@ void ListFormats() {
         for (const OptionSpec& option : format.options) {
             PrintOption(option);
         }
+        for (const OptionSpec& option : format.readOptions) {
+            PrintOption(option);
+        }
     }
 }
 

@@ -12,6 +12,7 @@ Format DocumentFormat();
 Format KeywordFormat();
 Format SqlFormat();
 Format NastranFormat();
+Format QuorlFormat();
 
 /// Runs a single-file writer of the library on a job.
 inline bool RunWriter(Tevra::CStreamFile& writer, ExportJob& job) {
