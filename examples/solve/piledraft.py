@@ -86,7 +86,8 @@ def loads():
             3: cap | {"name": "Closing joint", "type": "lack_of_fit", "value": 0.001},
         },
         "face_thermal_loads": {
-            1: {"name": "Summer", "load_case": 5, "type": "uniform", "values": [15.0] + [0.0] * 7},
+            1: {"name": "Summer", "load_case": 5, "entities": "all", "type": "uniform"}
+            | {"values": [15.0] + [0.0] * 7},
             2: {"name": "Warm grain", "load_case": 5, "entities": "4 5", "type": "gradient"}
             | {"values": [20.0, 0.0] + [0.0] * 6},
             3: {"name": "Burner", "load_case": 5, "entities": "6", "type": "general"}

@@ -237,6 +237,7 @@ def loads():
             1: {
                 "name": "Store",
                 "load_case": 2,
+                "entities": "all",
                 "direction": "z",
                 "type": "uniform",
                 "values": [-PRESSURE, 0.0, 0.0, 0.0],
@@ -250,12 +251,14 @@ def loads():
             1: {
                 "name": "Summer",
                 "load_case": 4,
+                "entities": "all",
                 "type": "uniform",
                 "values": [WARM] + [0.0] * 7,
             },
             2: {
                 "name": "Sun on top",
                 "load_case": 5,
+                "entities": "all",
                 "type": "gradient",
                 "values": [GRADIENT / 2, -GRADIENT / 2] + [0.0] * 6,
             },

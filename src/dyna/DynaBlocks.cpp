@@ -65,6 +65,9 @@ bool CDynaImport::Node(CLineReader& lines, std::string_view& line) {
         }
         Data::CNode node(position);
         node.SetRestraint(DirectionsOf(translational, rotational));
+        if (const Data::CNode* former = m_model->NodeTable().Find(number)) {
+            node.SetMassProperty(former->MassProperty());  // a mass read before stays
+        }
         m_model->SetNode(number, std::move(node));
         ++m_report.nodes;
     }

@@ -7,6 +7,9 @@
 #include <limits>
 
 #include "dyna/DynaCodes.h"
+#include "platform/text/Ascii.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Quoted.h"
 
 namespace Tevra {
 
@@ -23,43 +26,62 @@ std::string_view WithoutBlanks(std::string_view field) {
     return field.substr(first, field.find_last_not_of(' ') - first + 1);
 }
 
-/// Takes off a plus sign that a digit or decimal point follows: std::from_chars does not know it.
-std::string_view WithoutPlus(std::string_view text) {
-    const bool plus = text.size() > 1 && text[0] == '+' && text[1] != '-';
-    return plus ? text.substr(1) : text;
-}
-
-bool ParseInt(std::string_view text, int& value) {
-    text = WithoutPlus(text);
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    return error == std::errc() && stop == end;
-}
-
-/// 1.0+5 for 1.0e+5: `stop` is where the mantissa ends.
-bool ParseBareExponent(std::string_view text, const char* stop, double& value) {
-    const auto length = static_cast<std::size_t>(stop - text.data());
-    if ((*stop != '+' && *stop != '-') || text.size() >= kLongestNumber ||
-        text.find_first_of("eE") < length) {
-        return false;
+/// Digits with nothing but blanks round them, as most fields are; false for anything else.
+bool ReadDigits(std::string_view field, int& value) {
+    const char* at = field.data();
+    const char* const end = at + field.size();
+    while (at != end && *at == ' ') {
+        ++at;
     }
+    const char* const first = at;
+    int number = 0;
+    for (; at != end && Text::IsDigit(*at); ++at) {
+        number = number * 10 + (*at - '0');
+    }
+    const bool hasDigits = at != first;
+    while (at != end && *at == ' ') {
+        ++at;
+    }
+    value = number;
+    return hasDigits && at == end;
+}
+
+enum class RealFault { None, NoNumber, TooLarge };
+
+/// Reads `text`; numbers too small for a double are 0.
+RealFault ParsePlain(std::string_view text, double& value) {
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (stop != end || error == std::errc::invalid_argument) {
+        return RealFault::NoNumber;
+    }
+    if (error == std::errc::result_out_of_range) {
+        const std::size_t exponent = text.find_first_of("eE");
+        const bool isSmall = exponent < text.size() - 1 && text[exponent + 1] == '-';
+        value = 0.0;
+        return isSmall ? RealFault::None : RealFault::TooLarge;
+    }
+    return std::isfinite(value) ? RealFault::None : RealFault::NoNumber;
+}
+
+/// A number, also one with an exponent as Fortran writes it: 1.0d+5, or 1.0+5 without a letter.
+RealFault ParseReal(std::string_view text, double& value) {
+    text = Text::WithoutPlus(text);
+    const std::size_t mark = text.find_first_not_of("+-.0123456789");
+    const std::size_t sign = text.find_first_of("+-", 1);
+    const bool isFortran =
+        mark != std::string_view::npos && (text[mark] == 'd' || text[mark] == 'D');
+    const bool isBare = mark == std::string_view::npos && sign != std::string_view::npos;
+    if ((!isFortran && !isBare) || text.size() >= kLongestNumber) {
+        return ParsePlain(text, value);
+    }
+    const std::size_t length = isBare ? sign : mark;
     std::array<char, kLongestNumber> full{};
     char* end = std::copy_n(text.data(), length, full.data());
     *end++ = 'e';
-    end = std::copy(stop, text.data() + text.size(), end);
-    const auto [fullStop, error] = std::from_chars(full.data(), end, value);
-    return error == std::errc() && fullStop == end;
-}
-
-bool ParseReal(std::string_view text, double& value) {
-    text = WithoutPlus(text);
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (error != std::errc()) {
-        return false;
-    }
-    const bool whole = stop == end || ParseBareExponent(text, stop, value);
-    return whole && std::isfinite(value);
+    end = std::copy(text.begin() + static_cast<std::ptrdiff_t>(isBare ? sign : mark + 1),
+                    text.end(), end);
+    return ParsePlain({full.data(), static_cast<std::size_t>(end - full.data())}, value);
 }
 
 }  // namespace
@@ -73,9 +95,15 @@ std::string_view CDynaCard::Cut(int width) {
 }
 
 int CDynaCard::IntIn(int low, int high, Fault outside) {
-    const std::string_view field = Cut(kNumberWidth);
     int value = 0;
-    if (!field.empty() && !ParseInt(field, value)) {
+    if (m_next + kNumberWidth <= m_line.size() &&
+        ReadDigits(m_line.substr(m_next, kNumberWidth), value) && value >= low && value <= high) {
+        m_next += kNumberWidth;
+        return value;
+    }
+    value = 0;
+    const std::string_view field = Cut(kNumberWidth);
+    if (!field.empty() && !Text::ReadInt(field, value)) {
         Spoil(Fault::NoInteger, field, kNumberWidth);
         return 0;
     }
@@ -106,8 +134,9 @@ int CDynaCard::Code() {
 double CDynaCard::Real(int width) {
     const std::string_view field = Cut(width);
     double value = 0.0;
-    if (!field.empty() && !ParseReal(field, value)) {
-        Spoil(Fault::NoNumber, field, width);
+    const RealFault fault = field.empty() ? RealFault::None : ParseReal(field, value);
+    if (fault != RealFault::None) {
+        Spoil(fault == RealFault::TooLarge ? Fault::TooLarge : Fault::NoNumber, field, width);
         return 0.0;
     }
     return value;
@@ -123,10 +152,11 @@ void CDynaCard::Spoil(Fault fault, std::string_view field, int width) {
 }
 
 std::string CDynaCard::Error() const {
-    constexpr std::array<std::string_view, 6> kFaults = {
+    constexpr std::array<std::string_view, 7> kFaults = {
         "",
         "is not an integer",
         "is not a number",
+        "is too large a number",
         "is not the number of an entity, which is 1 or more",
         "is not the number of an entity or 0",
         "is not a code from 0 to 7"};
@@ -139,19 +169,10 @@ std::string CDynaCard::Error() const {
     text += '-';
     text += std::to_string(last);
     text += ": ";
-    text += m_badField.empty() ? "blank" : Quoted(m_badField);
+    text += m_badField.empty() ? "blank" : Text::Quoted(m_badField);
     text += ' ';
     text += kFaults[static_cast<std::size_t>(m_fault)];
     return text;
-}
-
-std::string Quoted(std::string_view text) {
-    constexpr std::size_t kMost = 60;
-    std::string quoted(1, '"');
-    quoted += text.substr(0, kMost);
-    std::replace_if(
-        quoted.begin(), quoted.end(), [](char c) { return c < ' ' || c > '~'; }, '?');
-    return quoted + (text.size() > kMost ? "...\"" : "\"");
 }
 
 }  // namespace Tevra

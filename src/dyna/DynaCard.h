@@ -22,7 +22,7 @@ public:
     int Reference();
     /// A constraint or release code: 0 to 7.
     int Code();
-    /// A finite number, also one whose exponent has no letter, as in 1.0+5.
+    /// A finite number, also one whose exponent has no letter or a D, as in 1.0+5 and 1.0d+5.
     double Real(int width);
 
     bool Good() const { return m_fault == Fault::None; }
@@ -30,7 +30,15 @@ public:
     std::string Error() const;
 
 private:
-    enum class Fault : unsigned char { None, NoInteger, NoNumber, BelowOne, Negative, NoCode };
+    enum class Fault : unsigned char {
+        None,
+        NoInteger,
+        NoNumber,
+        TooLarge,
+        BelowOne,
+        Negative,
+        NoCode
+    };
 
     std::string_view Cut(int width);
     int IntIn(int low, int high, Fault outside);
@@ -43,9 +51,5 @@ private:
     int m_badWidth = 0;
     Fault m_fault = Fault::None;
 };
-
-/// A text from a file between quotes for a message: cut where it is long, with question marks for
-/// what can't be printed.
-std::string Quoted(std::string_view text);
 
 }  // namespace Tevra

@@ -168,13 +168,33 @@ bool CDynaImport::SkipFurther(CLineReader& lines, std::string_view& line, bool h
         if (!NextData(lines, line)) {
             return Fail("the entry above lacks a further line, which its keyword asks for");
         }
-        CDynaCard card(line);
-        card.Real(further.firstWidth);
-        if (!card.Good() && line.find(',') == std::string_view::npos) {
-            return Fail("a further line of the entry above must stand here: " + card.Error());
+        if (line.find(',') == std::string_view::npos && !IsFurtherLine(line, further)) {
+            return false;
         }
     }
     return true;
+}
+
+/// Whether a line is made of the numbers that belong into a further line, and can't be the next
+/// entry.
+bool CDynaImport::IsFurtherLine(std::string_view line, const DynaFurtherLine& further) {
+    const std::string what = "a further line of the entry above must stand here: ";
+    CDynaCard card(line);
+    for (int i = 0; i < further.fields; ++i) {
+        card.Real(further.width);
+    }
+    if (!card.Good()) {
+        return Fail(what + card.Error());
+    }
+    if (line.size() > static_cast<std::size_t>(further.fields * further.width)) {
+        return Fail(what + "the line has more fields");
+    }
+    CDynaCard entry(line);
+    entry.Number();
+    entry.Reference();
+    entry.Number();
+    entry.Number();
+    return !entry.Good() || Fail(what + "the line reads as an entry");
 }
 
 bool CDynaImport::IsGood(const CDynaCard& card) {

@@ -89,6 +89,7 @@ private:
     bool SkipHeading(CLineReader& lines, std::string_view& line);
     /// Skips what the options of the keyword put behind an entry.
     bool SkipFurther(CLineReader& lines, std::string_view& line, bool hasMidSideNodes = false);
+    bool IsFurtherLine(std::string_view line, const DynaFurtherLine& further);
     bool SolidNodes(CLineReader& lines, std::string_view& line, CDynaCard card, DynaNodes& nodes);
     static Data::CElemConnect TakeConnect(CDynaCard& card);
     bool IsGood(const CDynaCard& card);

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "dyna/DynaCard.h"
 #include "platform/text/Ascii.h"
+#include "platform/text/Quoted.h"
 
 namespace Tevra {
 
@@ -16,15 +16,17 @@ constexpr std::uint8_t kThicknesses = 2;
 constexpr std::uint8_t kMidSideThicknesses = 4;
 constexpr std::uint8_t kParts = 8;
 constexpr std::uint8_t kEndOffsets = 16;
-constexpr std::uint8_t kOrientation = 32;
+constexpr std::uint8_t kOrientation = 32;  // or the offset of an inertia
 constexpr std::uint8_t kShellOffset = 64;
 constexpr std::uint8_t kShellThicknesses = kThicknesses | kMidSideThicknesses;
 
-constexpr std::array kFurtherLines = {
-    DynaFurtherLine{kParameters, 16, false},        DynaFurtherLine{kThicknesses, 16, false},
-    DynaFurtherLine{kMidSideThicknesses, 16, true}, DynaFurtherLine{kParts, 8, false},
-    DynaFurtherLine{kEndOffsets, 10, false},        DynaFurtherLine{kOrientation, 10, false},
-    DynaFurtherLine{kShellOffset, 16, false}};
+constexpr std::array kFurtherLines = {DynaFurtherLine{kParameters, 5, 16},
+                                      DynaFurtherLine{kThicknesses, 5, 16},
+                                      DynaFurtherLine{kMidSideThicknesses, 4, 16, true},
+                                      DynaFurtherLine{kParts, 2, 8},
+                                      DynaFurtherLine{kEndOffsets, 6, 10},
+                                      DynaFurtherLine{kOrientation, 3, 10},
+                                      DynaFurtherLine{kShellOffset, 1, 16}};
 
 struct Option {
     std::string_view base;
@@ -42,7 +44,7 @@ constexpr std::array kOptions = {
     Option{"*ELEMENT_SHELL", "BETA", kShellThicknesses},
     Option{"*ELEMENT_SHELL", "MCID", kShellThicknesses},
     Option{"*ELEMENT_SHELL", "OFFSET", kShellOffset},
-    Option{"*ELEMENT_INERTIA", "OFFSET", kEndOffsets},
+    Option{"*ELEMENT_INERTIA", "OFFSET", kOrientation},
 };
 
 /// Options of any keyword that put a line of text before the first entry.
@@ -104,14 +106,14 @@ bool ReadDynaForm(std::string_view keywordLine, std::string_view base, DynaForm&
         name.remove_suffix(1);
     }
     if (AsksForOtherWidths(behind)) {
-        error = "the fields below " + Quoted(keywordLine) +
+        error = "the fields below " + Text::Quoted(keywordLine) +
                 " have other widths: " + std::string(kOnlyStandard);
         return false;
     }
     form = DynaForm();
     if (!AddOptions(base, name.substr(base.size()), form)) {
-        error = "the form " + Quoted(name) + " of " + std::string(base) +
-                " is not read: which lines belong to its entries is not known";
+        error = "the form " + Text::Quoted(name) + " of " + std::string(base) +
+                " is not read: the lines of its entries are not known, or stand for sets";
         return false;
     }
     return true;
@@ -127,7 +129,7 @@ bool HasStandardFields(std::string_view keywordLine, std::string& error) {
         const std::size_t at = packed.find(setting);
         const std::size_t value = at + setting.size();
         if (at != std::string::npos && (value >= packed.size() || packed[value] != 'N')) {
-            error = "the file has fields of other widths (" + Quoted(keywordLine) +
+            error = "the file has fields of other widths (" + Text::Quoted(keywordLine) +
                     "): " + std::string(kOnlyStandard);
             return false;
         }

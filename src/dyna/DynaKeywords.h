@@ -11,7 +11,8 @@ namespace Tevra {
 /// A line that stands behind the line (or lines) of an entry because of an option of its keyword.
 struct DynaFurtherLine {
     std::uint8_t bit = 0;           ///< of a set of further lines
-    int firstWidth = 0;             ///< columns of its first field, a number
+    int fields = 0;                 ///< that it has at most, all numbers
+    int width = 0;                  ///< of each, columns
     bool withMidSideNodes = false;  ///< stands behind elements with mid-side nodes only
 };
 

@@ -8,13 +8,20 @@ const std::vector<Util::CAssemblyCalc>& CVynExport::CutsOf(int assembly) {
     if (m_assemblies == nullptr) {
         m_assemblies = std::make_unique<AssemblyWork>();
     }
-    const auto [entry, isNew] = m_assemblies->cuts.try_emplace(assembly);
-    if (isNew) {
-        for (const double fraction : PositionsOfAssembly(assembly)) {
-            entry->second.emplace_back(*m_model, assembly, true, fraction);
-        }
+    AssemblyWork& work = *m_assemblies;
+    if (const auto known = work.cuts.find(assembly); known != work.cuts.end()) {
+        return known->second;
     }
-    return entry->second;
+    if (work.cutElements > AssemblyWork::kMostCutElements) {
+        work = AssemblyWork();
+    }
+    const CAssemblyElements elements(*m_model, m_model->Assembly(assembly));
+    std::vector<Util::CAssemblyCalc>& cuts = work.cuts[assembly];
+    for (const double fraction : PositionsOfAssembly(assembly)) {
+        cuts.emplace_back(*m_model, assembly, elements, true, fraction);
+        work.cutElements += cuts.back().NumElem();
+    }
+    return cuts;
 }
 
 std::vector<double> CVynExport::PositionsOfAssembly(int assembly) const {

@@ -14,6 +14,11 @@ bool CVynExport::FindOption(char letter) const {
                std::string::npos;
 }
 
+const CVynData& CVynExport::TheModel() const {
+    static const CVynData kNone;
+    return m_model != nullptr ? *m_model : kNone;
+}
+
 // --- entities
 
 namespace {
@@ -67,59 +72,60 @@ bool Is3D(const Data::CElement& element) {
 }  // namespace
 
 bool CVynExport::IncludeNode() const {
-    return FindOption('N') && m_model != nullptr &&
-           AnySelected(m_model->NodeTable(), m_param.nodeList, *m_model, SelType::Node, kAny);
+    return FindOption('N') &&
+           AnySelected(TheModel().NodeTable(), m_param.nodeList, TheModel(), SelType::Node, kAny);
 }
 bool CVynExport::IncludeAssembly() const {
-    return FindOption('A') && m_model != nullptr &&
-           AnySelected(m_model->AssemblyTable(), m_param.assemblyList, *m_model, SelType::Assembly,
-                       kAny);
+    return FindOption('A') && AnySelected(TheModel().AssemblyTable(), m_param.assemblyList,
+                                          TheModel(), SelType::Assembly, kAny);
 }
 bool CVynExport::IncludeSpring() const {
-    return FindOption('S') && m_model != nullptr &&
-           (AnySelected(m_model->NodeTable(), m_param.nodeList, *m_model, SelType::Node,
-                        HasSpring) ||
-            AnySelected(m_model->ElemTable(), m_param.elementList, *m_model, SelType::Element,
-                        IsSpring));
+    return FindOption('S') && (AnySelected(TheModel().NodeTable(), m_param.nodeList, TheModel(),
+                                           SelType::Node, HasSpring) ||
+                               AnySelected(TheModel().ElemTable(), m_param.elementList, TheModel(),
+                                           SelType::Element, IsSpring));
 }
 bool CVynExport::Include1DElement() const {
-    return FindOption('1') && m_model != nullptr &&
-           AnySelected(m_model->ElemTable(), m_param.elementList, *m_model, SelType::Element, Is1D);
+    return FindOption('1') && AnySelected(TheModel().ElemTable(), m_param.elementList, TheModel(),
+                                          SelType::Element, Is1D);
 }
 bool CVynExport::Include2DElement() const {
-    return FindOption('2') && m_model != nullptr &&
-           AnySelected(m_model->ElemTable(), m_param.elementList, *m_model, SelType::Element, Is2D);
+    return FindOption('2') && AnySelected(TheModel().ElemTable(), m_param.elementList, TheModel(),
+                                          SelType::Element, Is2D);
 }
 bool CVynExport::Include3DElement() const {
-    return FindOption('3') && m_model != nullptr &&
-           AnySelected(m_model->ElemTable(), m_param.elementList, *m_model, SelType::Element, Is3D);
+    return FindOption('3') && AnySelected(TheModel().ElemTable(), m_param.elementList, TheModel(),
+                                          SelType::Element, Is3D);
 }
 
 std::vector<std::pair<int, const Data::CNode*>> CVynExport::GetNodes() const {
-    return Selected(m_model->NodeTable(), m_param.nodeList, *m_model, SelType::Node, kAny);
+    return Selected(TheModel().NodeTable(), m_param.nodeList, TheModel(), SelType::Node, kAny);
 }
 std::vector<std::pair<int, const Data::CAssembly*>> CVynExport::GetAssemblies() const {
-    return Selected(m_model->AssemblyTable(), m_param.assemblyList, *m_model, SelType::Assembly,
+    return Selected(TheModel().AssemblyTable(), m_param.assemblyList, TheModel(), SelType::Assembly,
                     kAny);
 }
 std::vector<std::pair<int, const Data::CElement*>> CVynExport::Get1DElements() const {
-    return Selected(m_model->ElemTable(), m_param.elementList, *m_model, SelType::Element, Is1D);
+    return Selected(TheModel().ElemTable(), m_param.elementList, TheModel(), SelType::Element,
+                    Is1D);
 }
 std::vector<std::pair<int, const Data::CElement*>> CVynExport::Get2DElements() const {
-    return Selected(m_model->ElemTable(), m_param.elementList, *m_model, SelType::Element, Is2D);
+    return Selected(TheModel().ElemTable(), m_param.elementList, TheModel(), SelType::Element,
+                    Is2D);
 }
 std::vector<std::pair<int, const Data::CElement*>> CVynExport::Get3DElements() const {
-    return Selected(m_model->ElemTable(), m_param.elementList, *m_model, SelType::Element, Is3D);
+    return Selected(TheModel().ElemTable(), m_param.elementList, TheModel(), SelType::Element,
+                    Is3D);
 }
 
 std::vector<std::pair<int, SelType>> CVynExport::GetSpringElements() const {
     std::vector<std::pair<int, SelType>> springs;
     for (const auto& [number, node] :
-         Selected(m_model->NodeTable(), m_param.nodeList, *m_model, SelType::Node, HasSpring)) {
+         Selected(TheModel().NodeTable(), m_param.nodeList, TheModel(), SelType::Node, HasSpring)) {
         springs.emplace_back(number, SelType::Node);
     }
-    for (const auto& [number, element] : Selected(m_model->ElemTable(), m_param.elementList,
-                                                  *m_model, SelType::Element, IsSpring)) {
+    for (const auto& [number, element] : Selected(TheModel().ElemTable(), m_param.elementList,
+                                                  TheModel(), SelType::Element, IsSpring)) {
         springs.emplace_back(number, SelType::Element);
     }
     return springs;
@@ -129,21 +135,18 @@ std::vector<std::pair<int, SelType>> CVynExport::GetSpringElements() const {
 
 int CVynExport::MapResults() {
     m_resultCases.clear();
-    if (m_model == nullptr) {
-        return 0;
-    }
-    for (const int number : m_model->AnalysisCaseTable().Numbers()) {
+    for (const int number : TheModel().AnalysisCaseTable().Numbers()) {
         const SCaseRef ref = AnalysisRef(number);
-        if (Util::IsCaseIncluded(m_param.caseList, ref, *m_model) &&
-            m_model->AnalysisCaseHasResults(number)) {
+        if (Util::IsCaseIncluded(m_param.caseList, ref, TheModel()) &&
+            TheModel().AnalysisCaseHasResults(number)) {
             m_resultCases.push_back(ref);
         }
     }
-    for (const int number : m_model->CombinationCaseTable().Numbers()) {
+    for (const int number : TheModel().CombinationCaseTable().Numbers()) {
         const SCaseRef ref(CaseOp::Combination, number, 0);
-        if (Util::IsCaseIncluded(m_param.caseList, ref, *m_model) &&
-            m_model->CombinationCase(number).Desc().IsValid(*m_model) &&
-            m_model->CombinationCaseHasResults(number, {})) {
+        if (Util::IsCaseIncluded(m_param.caseList, ref, TheModel()) &&
+            TheModel().CombinationCase(number).Desc().IsValid(TheModel()) &&
+            TheModel().CombinationCaseHasResults(number, {})) {
             m_resultCases.push_back(ref);
         }
     }
@@ -159,7 +162,7 @@ std::vector<SCaseRef> CVynExport::ResultCases() {
 
 std::vector<SCaseRef> CVynExport::ExpandCases(const SCaseRef& ref) const {
     if (!ref.IsCombination() ||
-        m_model->CombinationCase(ref.Case()).Desc().NumPermutation(*m_model) == 1) {
+        TheModel().CombinationCase(ref.Case()).Desc().NumPermutation(TheModel()) == 1) {
         return {ref};
     }
     return {{CaseOp::Combination, ref.Case(), kMinimumEnvelope},
@@ -167,7 +170,8 @@ std::vector<SCaseRef> CVynExport::ExpandCases(const SCaseRef& ref) const {
 }
 
 const CAnalysisTask& CVynExport::TaskOf(const SCaseRef& ref) const {
-    return m_model->AnalysisTask(ref.IsAnalysis() ? m_model->AnalysisCase(ref.Case()).Task() : 0);
+    return TheModel().AnalysisTask(ref.IsAnalysis() ? TheModel().AnalysisCase(ref.Case()).Task()
+                                                    : 0);
 }
 bool CVynExport::IsDynamic(const SCaseRef& ref) const {
     return TaskOf(ref).IsDynamic();
@@ -183,15 +187,15 @@ std::string CVynExport::CaseId(const SCaseRef& ref) const {
     if (ref.IsAnalysis()) {
         return std::string("A").append(std::to_string(ref.Case()));
     }
-    return ref.IsCombination() ? Text::ToUtf8(m_model->CombinationCase(ref.Case()).Name()) : "";
+    return ref.IsCombination() ? Text::ToUtf8(TheModel().CombinationCase(ref.Case()).Name()) : "";
 }
 
 std::string CVynExport::CaseDescription(const SCaseRef& ref) const {
     if (ref.IsAnalysis()) {
-        return Text::ToUtf8(m_model->AnalysisCase(ref.Case()).Name());
+        return Text::ToUtf8(TheModel().AnalysisCase(ref.Case()).Name());
     }
     return ref.IsCombination()
-               ? Text::ToUtf8(m_model->CombinationCase(ref.Case()).Desc().Description())
+               ? Text::ToUtf8(TheModel().CombinationCase(ref.Case()).Desc().Description())
                : "";
 }
 

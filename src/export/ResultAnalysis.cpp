@@ -225,12 +225,14 @@ void CVynExport::ResultAnalysis(int assembly, const ElementFlags& flags, const S
     const std::vector<Util::CAssemblyCalc>& cuts = CutsOf(assembly);
     set.Resize(cuts.size());
     Analyse(FiguresOf(ref), flags, kAssemblyParts, set, [&](const SCaseRef& own, FigureSink& sink) {
+        Vec3<double> below;
         for (std::size_t i = 0; i < cuts.size(); ++i) {
             if (flags.displacement) {
                 const InterResult movement = cuts[i].CalcDisp(own);
                 sink.Put(movement.tran);
                 sink.Put(movement.rot);
-                sink.Put(cuts[i].CalcDrift(own, cuts[i > 0 ? i - 1 : 0]));
+                sink.Put(cuts[i].Drift(movement.tran, cuts[i > 0 ? i - 1 : 0], below));
+                below = movement.tran;
             }
             if (flags.force) {
                 const InterResult force = cuts[i].CalcForce(own);

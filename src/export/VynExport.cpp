@@ -5,6 +5,7 @@
 #include "export/AssemblyWork.h"
 #include "export/LineWork.h"
 #include "export/Stopwatch.h"
+#include "platform/text/HostPath.h"
 #include "platform/text/Utf8.h"
 
 namespace Tevra::Export {
@@ -49,7 +50,7 @@ bool CVynExport::WriteTables() {
     Summary();
     Precalc1DIntermediateResults();
     if (!m_oneFilePerModule) {
-        OpenStream(m_path / std::filesystem::path(m_path.filename()).concat(m_extension));
+        OpenStream(m_path / Text::ToPath(m_stem).concat(m_extension));
     }
     const Stopwatch watch;
     const bool model = WriteAll(*this, kModelTables);

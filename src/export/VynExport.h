@@ -264,6 +264,8 @@ private:
     const CAnalysisTask& TaskOf(const SCaseRef& ref) const;
     CaseFigures& FiguresOf(const SCaseRef& ref);
     bool ModelIsFree() const;
+    /// The model, an empty one when there is none.
+    const CVynData& TheModel() const;
     void OpenStream(const std::filesystem::path& file);
     void CloseStream();
     void RecordInHistory();
@@ -273,21 +275,21 @@ private:
     std::filesystem::path m_path;
     std::string m_extension;
     CVynData* m_model = nullptr;
-    std::unique_ptr<char[]> m_outputBuffer;  ///< outlives the stream
     std::ofstream m_output;
     bool m_oneFilePerModule = true;
 
 protected:
     // State of a dialect.
     std::string m_statement;  ///< being built
+    std::vector<SCaseRef> m_resultCases;
+    std::vector<int> m_beamPositions;
     std::string m_tableName;
     int m_numField = 0;  ///< declared in the table
     int m_numValue = 0;  ///< written in the record
 
 private:
-    std::vector<SCaseRef> m_resultCases;
-    std::vector<int> m_beamPositions;
-    char m_separator = '/';  ///< between folders in `Path`
+    std::unique_ptr<char[]> m_outputBuffer;  ///< of the stream
+    char m_separator = '/';                  ///< between folders in `Path`
     std::filesystem::path m_file;
     std::vector<std::filesystem::path> m_writtenFiles;
     std::vector<std::filesystem::path> m_failedFiles;

@@ -70,7 +70,9 @@ bool CStreamFile::OpenWrite(std::wstring fileName, std::wstring secondName) {
     }
     m_fileName = std::move(fileName);
     m_secondName = std::move(secondName);
+    m_notes.Clear();
     const bool written = WriteToFile();
+    AddGroupedNotes();
     if (!written) {
         AddError(FileMessage(kCannotOpenForWriting, m_fileName));
     }
@@ -94,6 +96,17 @@ void CStreamFile::AddError(const std::wstring& text) {
 
 void CStreamFile::AddNote(const std::wstring& text) {
     AddLogLine(L"Note:           ", text);
+}
+
+void CStreamFile::AddNote(const wchar_t* kind, int number, const std::wstring& what) {
+    m_notes.Add(kind, number, what);
+}
+
+void CStreamFile::AddGroupedNotes() {
+    for (const std::wstring& sentence : m_notes.Sentences()) {
+        AddNote(sentence);
+    }
+    m_notes.Clear();
 }
 
 void CStreamFile::AddLogLine(const wchar_t* mark, const std::wstring& text) {

@@ -3,6 +3,8 @@
 #include <ostream>
 #include <string>
 
+#include "io/GroupedNotes.h"
+
 namespace Tevra {
 
 class CVynData;
@@ -60,6 +62,9 @@ protected:
     /// Adds a line to the error log: what went wrong, or what the format could not carry.
     void AddError(const std::wstring& text);
     void AddNote(const std::wstring& text);
+    /// A note about a record, which the log has once for all records of the kind; see
+    /// CGroupedNotes::Add.
+    void AddNote(const wchar_t* kind, int number, const std::wstring& what);
 
     // The order of these members is the one that the host documents to writers of its own.
     CVynData* m_model = nullptr;
@@ -77,6 +82,9 @@ protected:
 private:
     bool WriteToFile();
     void AddLogLine(const wchar_t* mark, const std::wstring& text);
+    void AddGroupedNotes();
+
+    CGroupedNotes m_notes;
 };
 
 }  // namespace Tevra

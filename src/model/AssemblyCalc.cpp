@@ -41,9 +41,14 @@ std::vector<double> StoreyPositions(const CVynData& model, const Data::CAssembly
 }  // namespace
 
 CAssemblyCalc::CAssemblyCalc(const CVynData& model, int assembly, bool isFraction, double position)
+    : CAssemblyCalc(model, assembly, CAssemblyElements(model, model.Assembly(assembly)), isFraction,
+                    position) {}
+
+CAssemblyCalc::CAssemblyCalc(const CVynData& model, int assembly, const CAssemblyElements& elements,
+                             bool isFraction, double position)
     : m_model(&model),
       m_plane(CutPlane::Of(model, model.Assembly(assembly), isFraction, position)),
-      m_cut(FindCut(model, model.Assembly(assembly), m_plane)) {}
+      m_cut(FindCut(model, model.Assembly(assembly), elements, m_plane)) {}
 
 std::vector<double> CAssemblyCalc::Positions(const CVynData& model, int assembly, int regular) {
     const Data::CAssembly& record = model.Assembly(assembly);
@@ -169,11 +174,10 @@ InterResult CAssemblyCalc::OwnDisp(int analysisCase) const {
     return fit.At(m_plane.centre);
 }
 
-Vec3<double> CAssemblyCalc::OwnDrift(int analysisCase, const CAssemblyCalc& below) const {
+Vec3<double> CAssemblyCalc::Drift(const Vec3<double>& disp, const CAssemblyCalc& below,
+                                  const Vec3<double>& dispBelow) const {
     const double height = Length(m_plane.centre - below.m_plane.centre);
-    return height > 0.0
-               ? (OwnDisp(analysisCase).tran - below.OwnDisp(analysisCase).tran) * (1.0 / height)
-               : NoInterResult().tran;
+    return height > 0.0 ? (disp - dispBelow) * (1.0 / height) : NoInterResult().tran;
 }
 
 namespace {
@@ -209,7 +213,8 @@ InterResult CAssemblyCalc::CalcForce(const SCaseRef& ref) const {
 Vec3<double> CAssemblyCalc::CalcDrift(const SCaseRef& ref, const CAssemblyCalc& below) const {
     return AnyCase(*m_model, ref,
                    [&](int number) {
-                       return InterResult{OwnDrift(number, below), {}};
+                       return InterResult{
+                           Drift(OwnDisp(number).tran, below, below.OwnDisp(number).tran), {}};
                    })
         .tran;
 }

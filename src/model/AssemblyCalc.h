@@ -18,6 +18,9 @@ public:
     /// A plane at a fraction of the length, or at metres from node 1. The model must live as long
     /// as this and not change.
     CAssemblyCalc(const CVynData& model, int assembly, bool isFraction, double position);
+    /// The same, of elements that were found before, for many planes through one assembly.
+    CAssemblyCalc(const CVynData& model, int assembly, const CAssemblyElements& elements,
+                  bool isFraction, double position);
 
     /// Where an assembly is looked at, as fractions of its length: a storey assembly at the levels
     /// of its storeys, ascending; others at `regular` positions (see CPosOn1D::Regular).
@@ -41,6 +44,9 @@ public:
     /// Displacement against that of another cut, per length between the two, global axes: the
     /// drift of a storey against the one below. NaN when the two coincide.
     Vec3<double> CalcDrift(const SCaseRef& ref, const CAssemblyCalc& below) const;
+    /// The same of displacements that are known, in one analysis case.
+    Vec3<double> Drift(const Vec3<double>& disp, const CAssemblyCalc& below,
+                       const Vec3<double>& dispBelow) const;
     /// Force (N) and moment about the centre (Nm), assembly axes: what the part beyond the plane
     /// does to the part before it, as in 1D elements.
     InterResult CalcForce(const SCaseRef& ref) const;
@@ -48,7 +54,6 @@ public:
 private:
     InterResult OwnDisp(int analysisCase) const;
     InterResult OwnForce(int analysisCase) const;
-    Vec3<double> OwnDrift(int analysisCase, const CAssemblyCalc& below) const;
     std::vector<const CutElement*> CutIn(int analysisCase) const;
 
     const CVynData* m_model;

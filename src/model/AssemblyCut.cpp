@@ -45,13 +45,32 @@ CutPlane CutPlane::Of(const CVynData& model, const Data::CAssembly& assembly, bo
     plane.isValid = plane.length > 0.0 && std::isfinite(position);
     if (plane.isValid) {
         plane.axes = LineAxes(model, assembly, line * (1.0 / plane.length));
-        const double along = isFraction ? position * plane.length : position;
-        plane.centre = start + plane.axes.AxisVec(0) * along;
+        plane.along = isFraction ? position * plane.length : position;
+        plane.centre = start + plane.axes.AxisVec(0) * plane.along;
     }
     return plane;
 }
 
 namespace {
+
+/// Nodes that bound an element.
+int CornersOf(const Data::CElement& element) {
+    return element.Is2D() ? CornerCount(element.Type()) : element.NumTopo();
+}
+
+bool Carries(const CVynData& model, const Data::CElement& element) {
+    return !element.IsDummy() && !element.IsDamper() &&
+           !(element.Is2D() && !model.Prop2D(element.Property()).Is2DFE());
+}
+
+bool HasItsNodes(const CVynData& model, const Data::CElement& element) {
+    for (int k = 1; k <= CornersOf(element); ++k) {
+        if (!model.NodeExist(element.Topo(k))) {
+            return false;
+        }
+    }
+    return true;
+}
 
 /// Finds the elements of one cut.
 class CutFinder {
@@ -59,27 +78,14 @@ public:
     CutFinder(const CVynData& model, const Data::CAssembly& assembly, const CutPlane& plane)
         : m_model(model), m_assembly(assembly), m_plane(plane) {}
 
-    std::vector<CutElement> Find() {
-        const CEntList& list = m_assembly.Internal();
-        const CBitSet items = Util::Item(list, m_model, -1, true);
-        for (const int number : m_model.ElemTable().Numbers()) {
-            const Data::CElement& element = m_model.Elem(number);
-            const bool isIn =
-                list.IsEmpty() ||
-                items.Test(list.TypeOf() == SelType::Member ? element.ParentMember() : number);
-            if (isIn && Carries(element)) {
-                Add(number, element);
-            }
+    std::vector<CutElement> Find(const CAssemblyElements& elements) {
+        for (const int number : elements.Near(m_plane.along)) {
+            Add(number, m_model.Elem(number));
         }
         return m_before.empty() ? std::move(m_beyond) : std::move(m_before);
     }
 
 private:
-    bool Carries(const Data::CElement& element) const {
-        return !element.IsDummy() && !element.IsDamper() &&
-               !(element.Is2D() && !m_model.Prop2D(element.Property()).Is2DFE());
-    }
-
     double Height(const Data::CElement& element, int k) const {
         const Vec3<double> arm = m_model.TopoPosition(element, k) - m_plane.centre;
         const double height = Dot(arm, m_plane.axes.AxisVec(0));
@@ -87,13 +93,10 @@ private:
     }
 
     void Add(int number, const Data::CElement& element) {
-        const int corners = element.Is2D() ? CornerCount(element.Type()) : element.NumTopo();
+        const int corners = CornersOf(element);
         double low = 0.0;
         double high = 0.0;
         for (int k = 1; k <= corners; ++k) {
-            if (!m_model.NodeExist(element.Topo(k))) {
-                return;
-            }
             const double height = Height(element, k);
             low = k == 1 ? height : std::min(low, height);
             high = k == 1 ? height : std::max(high, height);
@@ -220,9 +223,56 @@ private:
 
 }  // namespace
 
+CAssemblyElements::CAssemblyElements(const CVynData& model, const Data::CAssembly& assembly) {
+    const CutPlane start = CutPlane::Of(model, assembly, true, 0.0);
+    if (!start.isValid) {
+        return;
+    }
+    m_slack = kRoundOff * start.length;
+    const CEntList& list = assembly.Internal();
+    const CBitSet items = Util::Item(list, model, -1, true);
+    for (const int number : model.ElemTable().Numbers()) {
+        const Data::CElement& element = model.Elem(number);
+        const bool isIn =
+            list.IsEmpty() ||
+            items.Test(list.TypeOf() == SelType::Member ? element.ParentMember() : number);
+        if (!isIn || !Carries(model, element) || !HasItsNodes(model, element)) {
+            continue;
+        }
+        Range range{0.0, 0.0, number};
+        for (int k = 1; k <= CornersOf(element); ++k) {
+            const double at =
+                Dot(model.TopoPosition(element, k) - start.centre, start.axes.AxisVec(0));
+            range.low = k == 1 ? at : std::min(range.low, at);
+            range.high = k == 1 ? at : std::max(range.high, at);
+        }
+        if (std::isfinite(range.high - range.low)) {
+            m_ranges.push_back(range);
+            m_longest = std::max(m_longest, range.high - range.low);
+        }
+    }
+    std::sort(m_ranges.begin(), m_ranges.end(),
+              [](const Range& a, const Range& b) { return a.low < b.low; });
+}
+
+std::vector<int> CAssemblyElements::Near(double along) const {
+    std::vector<int> elements;
+    auto range =
+        std::lower_bound(m_ranges.begin(), m_ranges.end(), along - m_longest - 2.0 * m_slack,
+                         [](const Range& r, double least) { return r.low < least; });
+    for (; range != m_ranges.end() && range->low <= along + m_slack; ++range) {
+        if (range->high >= along - m_slack) {
+            elements.push_back(range->element);
+        }
+    }
+    std::sort(elements.begin(), elements.end());
+    return elements;
+}
+
 std::vector<CutElement> FindCut(const CVynData& model, const Data::CAssembly& assembly,
-                                const CutPlane& plane) {
-    return plane.isValid ? CutFinder(model, assembly, plane).Find() : std::vector<CutElement>{};
+                                const CAssemblyElements& elements, const CutPlane& plane) {
+    return plane.isValid ? CutFinder(model, assembly, plane).Find(elements)
+                         : std::vector<CutElement>{};
 }
 
 }  // namespace Tevra

@@ -19,6 +19,7 @@ struct CutPlane {
     bool isValid = false;  ///< false without a line
     Util::CDirCos axes;    ///< of the assembly: x from node 1 to node 2
     double length = 0.0;   ///< of the line, m
+    double along = 0.0;    ///< from node 1 to the plane, m
     Vec3<double> centre;   ///< where the line meets the plane, global, m
 
     static CutPlane Of(const CVynData& model, const Data::CAssembly& assembly, bool isFraction,
@@ -43,11 +44,32 @@ struct CutElement {
     std::vector<CutCorner> corners;
 };
 
+/// The elements that carry something in an assembly, by where they lie along its line: found once,
+/// they serve any number of cuts. Dummy elements, dampers and load panels carry nothing.
+class CAssemblyElements {
+public:
+    CAssemblyElements(const CVynData& model, const Data::CAssembly& assembly);
+
+    /// Numbers of the elements that a plane at a place of the line (m from node 1) can meet,
+    /// ascending.
+    std::vector<int> Near(double along) const;
+
+private:
+    struct Range {
+        double low;  ///< m along the line
+        double high;
+        int element;
+    };
+    std::vector<Range> m_ranges;  ///< ascending by `low`
+    double m_longest = 0.0;       ///< of the ranges
+    double m_slack = 0.0;
+};
+
 /// The elements of an assembly that a plane cuts within the extents of the assembly. Elements that
 /// end at the plane are cut, those that begin at it only where none ends there (so at the start of
-/// the assembly). Dummy elements, dampers and load panels carry nothing and are left out.
+/// the assembly).
 std::vector<CutElement> FindCut(const CVynData& model, const Data::CAssembly& assembly,
-                                const CutPlane& plane);
+                                const CAssemblyElements& elements, const CutPlane& plane);
 
 /// Force and moment about the centre of the plane, global axes, that the part of an element beyond
 /// the plane puts on the part before it in an analysis case.

@@ -1,5 +1,7 @@
 #include "model/Faces.h"
 
+#include "model/VynData.h"
+
 namespace Tevra {
 
 namespace {
@@ -40,6 +42,36 @@ int CornerCount(ElementType type) {
         default:
             return 0;
     }
+}
+
+SolidFace LoadedFace(ElementType type, int face) {
+    const int corners = CornerCount(type);
+    if (corners > 0) {
+        return {1, 2, 3, corners == 4 ? 4 : 0};
+    }
+    const auto faces = FacesOf(type);
+    return face >= 1 && face <= static_cast<int>(faces.size())
+               ? faces[static_cast<std::size_t>(face - 1)]
+               : SolidFace{};
+}
+
+Vec3<double> DoubleArea(const CVynData& model, const Data::CElement& element,
+                        const SolidFace& face) {
+    const Vec3<double>& first = model.TopoPosition(element, face[0]);
+    const Vec3<double>& second = model.TopoPosition(element, face[1]);
+    const Vec3<double>& third = model.TopoPosition(element, face[2]);
+    return face[3] != 0 ? Cross(third - first, model.TopoPosition(element, face[3]) - second)
+                        : Cross(second - first, third - first);
+}
+
+Vec3<double> CentreOfFace(const CVynData& model, const Data::CElement& element,
+                          const SolidFace& face) {
+    Vec3<double> sum;
+    const int corners = face[3] != 0 ? 4 : 3;
+    for (int k = 0; k < corners; ++k) {
+        sum = sum + model.TopoPosition(element, face[static_cast<std::size_t>(k)]);
+    }
+    return sum * (1.0 / corners);
 }
 
 }  // namespace Tevra

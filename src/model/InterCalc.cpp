@@ -89,6 +89,15 @@ void CInterPos::SetAutoPositionForCase(int element, const SCaseRef& ref) {
     m_calc->SetData(element, ref);
     m_positions = m_regular;
     m_calc->AddInteresting(m_positions);
+    // Regular positions are cut to millionths and the others are rounded: one millionth off a
+    // regular position is that position.
+    std::erase_if(m_positions, [this](const CPosOn1D& at) {
+        const auto isRegular = [this](int millionths) {
+            return std::binary_search(m_regular.begin(), m_regular.end(), CPosOn1D(millionths));
+        };
+        return !isRegular(at.Millionths()) &&
+               (isRegular(at.Millionths() - 1) || isRegular(at.Millionths() + 1));
+    });
     CPosOn1D::Sort(m_positions);
 }
 

@@ -66,6 +66,9 @@ public:
         return m_properties3D.Get(property);
     }
 
+    /// The first number above those of all exported properties.
+    std::int64_t NextProperty() const { return m_nextPid; }
+
     /// The materials, and the properties with several, as tables in the host's report markup.
     std::wstring Report() const;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -77,10 +78,14 @@ protected:
     static constexpr std::size_t Index(int number) { return static_cast<std::size_t>(number) - 1; }
     static constexpr std::size_t Slot(int number) { return Index(number) % kPageSize; }
 
+    /// Records that are allocated together: few, so that a number far from all others costs little.
+    static constexpr std::size_t kChunkSize = 4;
+
     struct Page {
         bool Has(int number) const { return ((present >> Slot(number)) & 1U) != 0; }
         std::uint64_t present = 0;
-        void* records = nullptr;  ///< kPageSize of them, owned by the table
+        /// kChunkSize records each, or null; owned by the table.
+        std::array<void*, kPageSize / kChunkSize> chunks{};
     };
     struct Book {
         std::array<Page, kPagesInBook> pages{};
@@ -111,13 +116,11 @@ protected:
     void Unmark(Page& page, int number);
 
     template <class Visit>
-    void ForEachPage(Visit&& visit) const {
+    void ForEachChunk(Visit&& visit) const {
         for (const auto& book : m_books) {
             if (book) {
-                for (Page& page : book->pages) {
-                    if (page.records != nullptr) {
-                        visit(page);
-                    }
+                for (const Page& page : book->pages) {
+                    std::for_each(page.chunks.begin(), page.chunks.end(), visit);
                 }
             }
         }

@@ -8,8 +8,8 @@
 namespace Tevra {
 
 /// Records numbered from 1 by the user, with gaps. Access, existence and writing take constant
-/// time; storage grows with the records, not with the highest number, because records lie in small
-/// pages made on demand.
+/// time; storage grows with the records, not with the highest number, because they lie in small
+/// pieces made on demand.
 ///
 /// What is not asked for in every loop stands outside the class, so that one file can make it for
 /// the tables of the model instead of each file that uses them.
@@ -34,7 +34,7 @@ public:
     /// The record, or null.
     const Record* Find(int number) const {
         const Page* page = FindPage(number);
-        return page != nullptr && page->Has(number) ? Records(*page) + Slot(number) : nullptr;
+        return page != nullptr && page->Has(number) ? &Place(*page, number) : nullptr;
     }
     Record* Find(int number) {
         return const_cast<Record*>(std::as_const(*this).Find(number));  // NOLINT
@@ -51,8 +51,10 @@ public:
 
 private:
     static const Record& Default();
-    static Record* Records(const Page& page) { return static_cast<Record*>(page.records); }
-    static Record* NewRecords() { return std::make_unique<Record[]>(kPageSize).release(); }
+    static Record& Place(const Page& page, int number) {
+        void* const chunk = page.chunks[Slot(number) / kChunkSize];
+        return static_cast<Record*>(chunk)[Slot(number) % kChunkSize];
+    }
 };
 
 template <class Record>
@@ -66,7 +68,7 @@ NumberedTable<Record>::NumberedTable(const NumberedTable& o) : NumberedPages() {
 
 template <class Record>
 NumberedTable<Record>::~NumberedTable() {
-    ForEachPage([](const Page& page) { delete[] Records(page); });
+    ForEachChunk([](void* chunk) { delete[] static_cast<Record*>(chunk); });
 }
 
 template <class Record>
@@ -75,10 +77,11 @@ bool NumberedTable<Record>::Set(int number, Record record) {
         return false;
     }
     Page& page = MakePage(number);
-    if (page.records == nullptr) {
-        page.records = NewRecords();
+    void*& chunk = page.chunks[Slot(number) / kChunkSize];
+    if (chunk == nullptr) {
+        chunk = std::make_unique<Record[]>(kChunkSize).release();
     }
-    Records(page)[Slot(number)] = std::move(record);
+    Place(page, number) = std::move(record);
     Mark(page, number);
     return true;
 }
@@ -89,7 +92,7 @@ bool NumberedTable<Record>::Erase(int number) {
         return false;
     }
     Page& page = MakePage(number);
-    Records(page)[Slot(number)] = Record{};
+    Place(page, number) = Record{};
     Unmark(page, number);
     return true;
 }

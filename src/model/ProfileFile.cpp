@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <fstream>
 
@@ -7,6 +6,8 @@
 #include "model/SectionText.h"
 #include "platform/text/Ascii.h"
 #include "platform/text/HostPath.h"
+#include "platform/text/LineReader.h"
+#include "platform/text/Quoted.h"
 #include "platform/text/Utf8.h"
 
 namespace Tevra::Data {
@@ -14,8 +15,7 @@ namespace Tevra::Data {
 namespace {
 
 /// Far above a catalogue of everything that is rolled.
-constexpr std::size_t kMostBytes = std::size_t{16} << 20;
-constexpr std::size_t kMostQuoted = 40;
+constexpr int kMostLines = 200'000;
 
 /// The words of a line: separated by blanks, up to a "#".
 std::vector<std::wstring_view> WordsOf(std::wstring_view line) {
@@ -30,10 +30,6 @@ std::vector<std::wstring_view> WordsOf(std::wstring_view line) {
         words.push_back(line.substr(0, static_cast<std::size_t>(end - line.begin())));
         line.remove_prefix(words.back().size());
     }
-}
-
-std::wstring Quoted(std::wstring_view word) {
-    return L"\"" + std::wstring(word.substr(0, kMostQuoted)) + L"\"";
 }
 
 /// A value that a line may state after the dimensions.
@@ -121,7 +117,7 @@ private:
         profile.name = words[1];
         profile.shape = FindStandardShape(words[2]);
         if (profile.shape == nullptr) {
-            return L"unknown shape " + Quoted(words[2]);
+            return L"unknown shape " + Text::Quoted(words[2]);
         }
         std::wstring problem = ReadValues(words.subspan(3), profile);
         if (problem.empty()) {
@@ -138,18 +134,18 @@ private:
         for (const std::wstring_view word : words) {
             if (word.find(L'=') != std::wstring_view::npos) {
                 if (!ReadOptional(word, profile)) {
-                    return L"can't read " + Quoted(word);
+                    return L"can't read " + Text::Quoted(word);
                 }
                 continue;
             }
             double value = 0.0;
             if (!ReadNumber(word, value)) {
-                return L"not a number: " + Quoted(word);
+                return L"not a number: " + Text::Quoted(word);
             }
             dimensions.push_back(value * m_units.length);
         }
         if (dimensions.size() != profile.shape->order.size()) {
-            return L"shape " + Quoted(profile.shape->word) + L" has " +
+            return L"shape " + Text::Quoted(profile.shape->word) + L" has " +
                    std::to_wstring(profile.shape->order.size()) + L" dimensions, not " +
                    std::to_wstring(dimensions.size());
         }
@@ -184,47 +180,25 @@ private:
     std::vector<Profile> m_profiles;
 };
 
-/// The bytes of a stream; false when it can't be read, or holds more than a catalogue may.
-bool ReadBytes(std::istream& text, std::string& bytes, std::wstring& error) {
-    std::array<char, 65536> block{};
-    while (text.read(block.data(), block.size()), text.gcount() > 0) {
-        bytes.append(block.data(), static_cast<std::size_t>(text.gcount()));
-        if (bytes.size() > kMostBytes) {
-            error = L"the catalogue is larger than 16 MB";
-            return false;
-        }
-    }
-    if (!text.eof() || text.bad()) {
-        error = L"the catalogue can't be read";
-        return false;
-    }
-    return true;
-}
-
-/// A wholly read text without the mark that some editors put before UTF-8.
-std::string_view WithoutMark(std::string_view bytes) {
-    constexpr std::string_view kMark = "\xEF\xBB\xBF";
-    return bytes.starts_with(kMark) ? bytes.substr(kMark.size()) : bytes;
-}
-
 }  // namespace
 
 bool CProfileCatalogue::Load(std::istream& text, std::wstring& error) {
     error.clear();
-    std::string bytes;
-    if (!ReadBytes(text, bytes, error)) {
-        return false;
-    }
     CProfileReader reader;
-    std::string_view rest = WithoutMark(bytes);
-    for (int line = 1; !rest.empty(); ++line) {
-        const auto end = std::min(rest.find('\n'), rest.size());
-        const std::wstring problem = reader.Read(Text::FromUtf8(rest.substr(0, end)));
+    CLineReader lines(text);
+    std::string_view line;
+    while (lines.Next(line)) {
+        const std::wstring problem = lines.Number() > kMostLines
+                                         ? L"the catalogue is too large"
+                                         : reader.Read(Text::FromUtf8(line));
         if (!problem.empty()) {
-            error = L"line " + std::to_wstring(line) + L": " + problem;
+            error = L"line " + std::to_wstring(lines.Number()) + L": " + problem;
             return false;
         }
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    if (!lines.Error().empty()) {
+        error = Text::FromUtf8(lines.Error());
+        return false;
     }
     for (Profile& profile : reader.Profiles()) {
         Set(std::move(profile));

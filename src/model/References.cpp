@@ -3,6 +3,7 @@
 #include <type_traits>
 
 #include "model/ReferenceFinder.h"
+#include "model/SecGeom.h"
 
 namespace Tevra::Util {
 
@@ -59,6 +60,10 @@ void LookAtProperties(Finder& f) {
     ForEach(f, model.SectionTable(), L"section", [&f](const CSection& section) {
         for (const CSecComp& component : section.Components()) {
             f.Material(component.Material());
+            const CSecGeom& geometry = component.Geometry();
+            if (!geometry.Problem().empty()) {
+                f.Say(L"\"" + component.Description() + L"\": " + std::wstring(geometry.Problem()));
+            }
         }
     });
     ForEach(f, model.Prop2DTable(), L"2D property", [&f](const CProp2D& property) {

@@ -19,7 +19,8 @@ enum class ReferenceScope { All, NoProperties };
 
 /// Looks at the numbers in a model that refer to another record (nodes of elements and members,
 /// properties, axes, materials, curves, cases, stages, saved lists, results) and reports those
-/// whose record does not exist, and lists and case descriptions that can't be read or resolved.
+/// whose record does not exist, and lists, case descriptions and sections that can't be read or
+/// resolved.
 /// Keeps the first `most` findings.
 ReferenceReport FindDanglingReferences(const CVynData& model,
                                        ReferenceScope scope = ReferenceScope::All,

@@ -155,11 +155,24 @@ void CombineFigures(const CVynData& model, const SCaseRef& ref, std::span<double
     CaseCombiner(model, fetch).Case(ref, out);
 }
 
+namespace {
+
+std::set<int> CasesIn(const CVynData& model, int combination, int permutation) {
+    return model.CombinationCase(combination).Desc().AnalysisCases(model, permutation);
+}
+
+}  // namespace
+
 bool EveryAnalysisCase(const CVynData& model, int combination, int permutation,
                        const std::function<bool(int)>& has) {
-    const std::set<int> cases =
-        model.CombinationCase(combination).Desc().AnalysisCases(model, permutation);
+    const std::set<int> cases = CasesIn(model, combination, permutation);
     return !cases.empty() && std::all_of(cases.begin(), cases.end(), has);
+}
+
+bool AnyAnalysisCase(const CVynData& model, int combination, int permutation,
+                     const std::function<bool(int)>& has) {
+    const std::set<int> cases = CasesIn(model, combination, permutation);
+    return std::any_of(cases.begin(), cases.end(), has);
 }
 
 }  // namespace Tevra

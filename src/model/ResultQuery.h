@@ -33,4 +33,8 @@ void ForCase(const CVynData& model, const SCaseRef& ref, Out& out, Fetch fetch) 
 bool EveryAnalysisCase(const CVynData& model, int combination, int permutation,
                        const std::function<bool(int)>& has);
 
+/// Whether it holds for one of them.
+bool AnyAnalysisCase(const CVynData& model, int combination, int permutation,
+                     const std::function<bool(int)>& has);
+
 }  // namespace Tevra

@@ -1,9 +1,7 @@
 #include "model/SectionText.h"
 
-#include <charconv>
-#include <cmath>
-
 #include "platform/text/Ascii.h"
+#include "platform/text/Numbers.h"
 
 namespace Tevra::Data {
 
@@ -23,10 +21,7 @@ constexpr UnitOfLength kUnits[] = {
 
 bool ReadNumber(std::wstring_view text, double& value) {
     text = Text::Trim(text);
-    if (text.starts_with(L'+')) {
-        text.remove_prefix(1);
-    }
-    if (text.empty() || text.size() > kMostDigits || text.front() == L'+') {
+    if (text.size() > kMostDigits) {
         return false;
     }
     char digits[kMostDigits];
@@ -37,8 +32,7 @@ bool ReadNumber(std::wstring_view text, double& value) {
         }
         digits[n++] = static_cast<char>(c);
     }
-    const auto [end, error] = std::from_chars(digits, digits + n, value);
-    return error == std::errc() && end == digits + n && std::isfinite(value);
+    return Text::ReadReal({digits, n}, value);
 }
 
 double LengthUnit(std::wstring_view word) {

@@ -97,10 +97,19 @@ bool IsCaseIncluded(const CEntList& list, const SCaseRef& ref, const CVynData& m
 
 std::wstring ExpandedText(const CEntList& list, const CVynData& model) {
     std::wstring text;
-    Item(list, model, -1, true).ForEach([&text](int number) {
-        text += text.empty() ? L"" : L" ";
-        text += std::to_wstring(number);
-    });
+    const auto append = [&text](const CBitSet& numbers, const wchar_t* letter) {
+        numbers.ForEach([&text, letter](int number) {
+            text += text.empty() ? L"" : L" ";
+            text += letter + std::to_wstring(number);
+        });
+    };
+    if (list.TypeOf() == SelType::Case) {
+        const CaseSet cases = Cases(list, model);
+        append(cases.analysis, L"A");
+        append(cases.combination, L"C");
+    } else {
+        append(Item(list, model, -1, true), L"");
+    }
     return text;
 }
 

@@ -37,7 +37,8 @@ struct CaseSet {
 CaseSet Cases(const CEntList& list, const CVynData& model);
 bool IsCaseIncluded(const CEntList& list, const SCaseRef& ref, const CVynData& model);
 
-/// The expansion as text: existing numbers ascending, one blank between.
+/// The expansion as text: existing numbers ascending, one blank between; those of cases with their
+/// letters, "A1 A3 C2".
 std::wstring ExpandedText(const CEntList& list, const CVynData& model);
 
 }  // namespace Tevra::Util

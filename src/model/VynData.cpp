@@ -1,6 +1,7 @@
 #include "model/VynData.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "model/VynDerived.h"
 
@@ -186,6 +187,25 @@ const SpanLoadIndex& CVynData::SpanLoadsByElement() const {
         derived.spanLoads = std::make_unique<const SpanLoadIndex>(*this);
     }
     return *derived.spanLoads;
+}
+
+std::span<const std::pair<int, int>> CVynData::ElementsOfMember(int member) const {
+    DerivedData& derived = Derived();
+    auto& all = derived.memberElements;
+    if (!derived.hasMemberElements) {
+        all.clear();
+        for (const int number : ElemTable().Numbers()) {
+            if (const int parent = Elem(number).ParentMember(); parent != 0) {
+                all.emplace_back(parent, number);
+            }
+        }
+        std::sort(all.begin(), all.end());
+        derived.hasMemberElements = true;
+    }
+    const auto first = std::lower_bound(all.begin(), all.end(), std::pair(member, 0));
+    const auto last =
+        std::upper_bound(first, all.end(), std::pair(member, std::numeric_limits<int>::max()));
+    return {first, last};
 }
 
 int CVynData::HighestLoadCase() const {

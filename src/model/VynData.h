@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <span>
+#include <utility>
 #include <vector>
 
 #include "model/DirCos.h"
@@ -119,6 +121,8 @@ public:
 
     /// What loads the spans of 1D elements; holds until the model changes.
     const SpanLoadIndex& SpanLoadsByElement() const;
+    /// The elements that a member was meshed into, as pairs of the member and an element.
+    std::span<const std::pair<int, int>> ElementsOfMember(int member) const;
 
     // --- results
     MemRes& EditResults() {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "model/BitSet.h"
@@ -38,6 +39,8 @@ struct DerivedData {
     std::map<int, CombinationSums> sums;  ///< by combination number
     std::size_t keptParts = 0;            ///< of all `sums`
     std::unique_ptr<const SpanLoadIndex> spanLoads;
+    bool hasMemberElements = false;
+    std::vector<std::pair<int, int>> memberElements;  ///< member and element, ascending
 };
 
 }  // namespace Tevra

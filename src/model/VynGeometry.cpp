@@ -153,13 +153,7 @@ Vec3<double> DoubleArea(const CVynData& model, const Data::CElement& element) {
     if (corners == 0 || !HasNodes(model, element, corners)) {
         return {};
     }
-    const Vec3<double>& first = model.TopoPosition(element, 1);
-    const Vec3<double>& second = model.TopoPosition(element, 2);
-    const Vec3<double>& third = model.TopoPosition(element, 3);
-    if (corners == 4) {
-        return Cross(third - first, model.TopoPosition(element, 4) - second);
-    }
-    return Cross(second - first, third - first);
+    return DoubleArea(model, element, LoadedFace(element.Type(), 1));
 }
 
 }  // namespace

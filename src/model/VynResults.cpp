@@ -73,7 +73,8 @@ bool CVynData::CombinationCaseHasResults(int combination, const SCaseRef& ref) c
 bool CVynData::ResSetExist(const ResSetRef& set) const {
     const auto has = [this, &set](int number) { return HasCode(m_results.Find(number), set.code); };
     if (set.ref.IsCombination()) {
-        return EveryAnalysisCase(*this, set.ref.Case(), std::max(set.ref.Permutation(), 0), has);
+        // A permutation without the case that lacks the kind has it all the same.
+        return AnyAnalysisCase(*this, set.ref.Case(), std::max(set.ref.Permutation(), 0), has);
     }
     return set.ref.IsAnalysis() && has(set.ref.Case());
 }

@@ -5,6 +5,9 @@
 /// Directions as the digits 1 to 6 of the target.
 namespace Tevra::Nas {
 
+/// Stiffness (N/m, Nm/rad) below which a direction of a spring is none.
+inline constexpr double kLeastStiffness = 1e-10;
+
 constexpr int DigitOf(Direction d) {
     return static_cast<int>(d) + 1;
 }

@@ -19,8 +19,9 @@ bool CNasFile::Write3DProperties() {
     StartSection("3D properties");
     for (const int number : m_model->Prop3DTable().Numbers()) {
         SetSubject(L"3D property", number);
-        if (m_materials.Prop3D(number).empty()) {
-            Skip(L"it has no material");
+        if (!m_writtenProps3D.Test(number)) {
+            Skip(L"it has no material, or a value is not a number");
+            continue;
         }
         for (const ExportedProperty& property : m_materials.Prop3D(number)) {
             StartCard("PSOLID");
@@ -39,10 +40,8 @@ bool CNasFile::Write2DProperties() {
         SetSubject(L"2D property", number);
         if (property.IsLoadPanel()) {
             Skip(L"it is a load panel");
-        } else if (m_materials.Prop2D(number).empty()) {
-            Skip(L"it has no material");
-        } else if (!(property.InplaneThickness() > 0.0)) {
-            Skip(L"it has no thickness");
+        } else if (!m_writtenProps2D.Test(number)) {
+            Skip(L"it has no material or thickness, or a value is not a number");
         } else {
             for (const ExportedProperty& entry : m_materials.Prop2D(number)) {
                 Write2DProperty(number, entry);

@@ -75,7 +75,7 @@ bool CNasFile::WriteBeamLoads() {
     for (const int number : m_model->BeamLoadTable().Numbers()) {
         const Data::CBeamLoad& load = m_model->BeamLoad(number);
         SetSubject(L"Beam load", number);
-        if (HasValidCase(load) && !WriteBeamLoad(load)) {
+        if (IsLoadWritten(load, {1}) && !WriteBeamLoad(load)) {
             return false;
         }
     }
@@ -85,6 +85,7 @@ bool CNasFile::WriteBeamLoads() {
 bool CNasFile::WriteBeamLoad(const Data::CBeamLoad& load) {
     const std::vector<int> elements = LoadedBeams(load, false);
     if (!elements.empty() && !IsCarried(load.TypeOf())) {
+        AddNote(m_subjectKind, m_subjectNumber, L"is trilinear, which no card can carry");
         AddError(L"this feature does not support non-uniform member loads");
         return false;
     }
@@ -94,35 +95,39 @@ bool CNasFile::WriteBeamLoad(const Data::CBeamLoad& load) {
     return true;
 }
 
-/// A load in a user axis becomes one card for each of its global components.
+/// A load in a user axis becomes one card for each of its global components. The words of projected
+/// loads project each component square to its own axis, so that a projected one is brought to the
+/// length of the beam before.
 void CNasFile::WriteBeamLoadOn(const Data::CBeamLoad& load, int element) {
     const Direction d = load.GetDirection();
-    if (load.Axis() <= 0 || !m_model->AxisExist(load.Axis())) {
-        WriteBeamLoadCard(load, element, d, 1.0);
+    const bool isProjected = load.IsProjected() && load.Axis() != kLocalAxis;
+    if (load.Axis() <= 0 || CoordinateSystem(load.Axis()) == 0) {
+        WriteBeamLoadCard(load, element, TypeWord(d, isProjected), 1.0);
         return;
     }
     const Data::CElement& record = m_model->Elem(element);
-    const Vec3<double> middle =
-        (m_model->TopoPosition(record, 1) + m_model->TopoPosition(record, 2)) * 0.5;
+    const Vec3<double>& start = m_model->TopoPosition(record, 1);
+    const Vec3<double>& end = m_model->TopoPosition(record, 2);
     Vec3<double> local;
     local[static_cast<int>(ToTrans(d))] = 1.0;
-    const Vec3<double> global = m_model->AxisDC(load.Axis(), middle).LtoG(local);
+    const Vec3<double> global = m_model->AxisDC(load.Axis(), (start + end) * 0.5).LtoG(local);
+    const double sine = Length(Cross(end - start, global)) / Length(end - start);
     for (int k = 0; k < 3; ++k) {
         if (std::abs(global[k]) > kLeastShare) {
-            WriteBeamLoadCard(load, element, static_cast<Direction>(IsTrans(d) ? k : k + 3),
-                              global[k]);
+            const auto along = static_cast<Direction>(IsTrans(d) ? k : k + 3);
+            WriteBeamLoadCard(load, element, TypeWord(along, false),
+                              global[k] * (isProjected ? sine : 1.0));
         }
     }
 }
 
-void CNasFile::WriteBeamLoadCard(const Data::CBeamLoad& load, int element, Direction direction,
+void CNasFile::WriteBeamLoadCard(const Data::CBeamLoad& load, int element, std::string_view type,
                                  double share) {
     const Span span = SpanOf(load, m_model->ElemLen(element));
-    const bool isProjected = load.IsProjected() && load.Axis() != kLocalAxis;
     StartCard("PLOAD1");
     AddInt(load.LoadCase());
     AddInt(element);
-    AddTextField(TypeWord(direction, isProjected));
+    AddTextField(type);
     AddTextField(ScaleWord(span.isFraction));
     AddReal(span.from);
     AddReal(span.fromValue * share);

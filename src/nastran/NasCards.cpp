@@ -114,15 +114,14 @@ void CNasFile::SetSubject(const wchar_t* kind, int number) {
 }
 
 void CNasFile::Skip(const std::wstring& reason) {
-    AddNote(std::wstring(m_subjectKind) + L" " + std::to_wstring(m_subjectNumber) +
-            L" is not written: " + reason);
+    AddNote(m_subjectKind, m_subjectNumber, L"is not written: " + reason);
 }
 
 void CNasFile::SkipMany(int count, const wchar_t* what, const wchar_t* reason) {
     if (count > 0) {
-        AddNote(std::wstring(m_subjectKind) + L" " + std::to_wstring(m_subjectNumber) +
-                L" is not written for " + std::to_wstring(count) + L" of its " + what + L": " +
-                reason);
+        AddNote(
+            m_subjectKind, m_subjectNumber,
+            L"is not written for " + std::to_wstring(count) + L" of its " + what + L": " + reason);
     }
 }
 

@@ -11,8 +11,8 @@ namespace Tevra {
 
 namespace {
 
-/// Groups of loads by the set that a subcase selects them with.
-enum LoadKinds : unsigned { kMechanical = 1, kThermal = 2, kSelfWeight = 4 };
+/// Far above what any model has, and what a file can sensibly hold.
+constexpr int kMostSubcases = 1'000'000;
 
 constexpr std::wstring_view kConflicts =
     L"WARNING\n\nLoading and gravity options conflict in the following case(s).\nGravity loads "
@@ -37,14 +37,8 @@ bool CNasFile::WriteHeader() {
     WriteTitles();
     WriteOutputRequests();
     int next = m_model->HighestLoadCase();
-    if (m_exportLoads) {
-        if (!WriteSubcases()) {
-            return false;
-        }
-        next += static_cast<int>(m_combinationCases.size());
-        for (int i = 1; i <= static_cast<int>(m_gravityCases.size()); ++i) {
-            next += GravityCase(i) != i ? 1 : 0;
-        }
+    if (m_exportLoads && !WriteSubcases(next)) {
+        return false;
     }
     if (m_analysisType == kBuckling) {
         m_bucklingSet = next + 1;
@@ -87,14 +81,14 @@ void CNasFile::WriteParameters() {
         "PARAM,OMAXR,24578\nPARAM,OUGCORD,BASIC\n$\n");
 }
 
-bool CNasFile::WriteSubcases() {
-    if (m_model->HighestLoadCase() > CMaterialMap::kHighestNumber) {
-        AddError(L"Load case " + std::to_wstring(m_model->HighestLoadCase()) +
-                 L" does not fit into a field");
+/// `next` goes on from the highest load case to the last number that a subcase has.
+bool CNasFile::WriteSubcases(int& next) {
+    if (next > kMostSubcases) {
+        AddError(L"There is a subcase for every number up to the highest load case, " +
+                 std::to_wstring(next) + L": that is too many");
         return false;
     }
     FindLoadKinds();
-    int next = m_model->HighestLoadCase();
     std::wstring warning(kConflicts);
     int conflicts = 0;
     for (int i = 1; i <= m_model->HighestLoadCase(); ++i) {
@@ -183,26 +177,6 @@ void CNasFile::FindLoadKinds() {
 bool CNasFile::HasLoad(int loadCase, unsigned kinds) const {
     const auto i = static_cast<std::size_t>(loadCase);
     return i < m_loadKinds.size() && (m_loadKinds[i] & kinds) != 0;
-}
-
-bool CNasFile::WriteReferenceTemperature() {
-    const bool anyThermal =
-        m_model->NumAxialLoad() + m_model->NumBeamThermalLoad() + m_model->NumInPlaneLoad() > 0 ||
-        m_model->NumFaceThermalLoad() > 0;
-    if (!anyThermal) {
-        return true;
-    }
-    StartSection("Refernce temperature");
-    for (int i = 1; i <= m_model->HighestLoadCase(); ++i) {
-        if (HasLoad(i, kThermal)) {
-            SetSubject(L"Load case", i);
-            StartCard("TEMPD");
-            AddInt(i);
-            AddReal(0.0);  // loads are changes of temperature
-            EndCard();
-        }
-    }
-    return true;
 }
 
 int CNasFile::GravityCase(int loadCase) const {

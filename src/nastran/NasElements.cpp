@@ -1,4 +1,3 @@
-#include <climits>
 #include <cmath>
 
 #include "io/TextOut.h"
@@ -16,7 +15,6 @@ namespace Tevra {
 namespace {
 
 constexpr double kDegrees = 180.0 / 3.14159265358979323846;
-constexpr double kLeastStiffness = 1e-10;
 
 /// How the fields of an element are laid out; None is not exported.
 enum class Layout { None, Line, Spring, Plane, Link, Cable, Solid };
@@ -86,13 +84,14 @@ bool IsStiff(const Data::CSpringProp& spring, Direction d) {
                           : spring.Type() == SpringType::Rotational
                               ? d == Direction::XX
                               : IsTrans(d) || spring.RotationActive();
-    return isOfType && spring.Stiff(d) > kLeastStiffness;
+    return isOfType && spring.Stiff(d) > Nas::kLeastStiffness;
 }
 
 }  // namespace
 
 int CNasFile::NextElement() {
-    return m_elementNumber < INT_MAX ? ++m_elementNumber : m_elementNumber;
+    m_isNumberTooHigh = m_isNumberTooHigh || m_elementNumber >= CMaterialMap::kHighestNumber;
+    return m_isNumberTooHigh ? m_elementNumber : ++m_elementNumber;
 }
 
 const wchar_t* CNasFile::NodesFault(const Data::CElement& record) const {
@@ -113,17 +112,16 @@ const wchar_t* CNasFile::PropertyFault(const Data::CElement& record) const {
     bool has = true;
     switch (InfoOf(record.Type()).property) {
         case PropertyType::Section:
-            has = !m_materials.Prop1D(property).empty();
+            has = m_writtenSections.Test(property);
             break;
         case PropertyType::Prop2D:
             if (m_model->Prop2D(property).IsLoadPanel()) {
                 return L"it is a load panel";
             }
-            has = !m_materials.Prop2D(property).empty() &&
-                  m_model->Prop2D(property).InplaneThickness() > 0.0;
+            has = m_writtenProps2D.Test(property);
             break;
         case PropertyType::Prop3D:
-            has = !m_materials.Prop3D(property).empty();
+            has = m_writtenProps3D.Test(property);
             break;
         case PropertyType::Cable:
             has = m_model->CablePropExist(property);
@@ -134,7 +132,7 @@ const wchar_t* CNasFile::PropertyFault(const Data::CElement& record) const {
         default:
             break;
     }
-    return has ? nullptr : L"its property does not exist, or has no material or no thickness";
+    return has ? nullptr : L"its property is not in the file";
 }
 
 const wchar_t* CNasFile::ElementFault(int element) const {

@@ -11,37 +11,6 @@ namespace Tevra {
 
 namespace {
 
-/// The corners of the loaded face as places in the topology, the fourth 0 for triangles; all 0 when
-/// a solid has no such face.
-SolidFace LoadedFace(const Data::CElement& record, int face) {
-    if (record.Is2D()) {
-        return {1, 2, 3, CornerCount(record.Type()) == 4 ? 4 : 0};
-    }
-    const auto faces = FacesOf(record.Type());
-    return face >= 1 && face <= static_cast<int>(faces.size())
-               ? faces[static_cast<std::size_t>(face - 1)]
-               : SolidFace{};
-}
-
-/// Twice the area of a face, along its normal.
-Vec3<double> DoubleArea(const CVynData& model, const Data::CElement& record,
-                        const SolidFace& face) {
-    const Vec3<double> first = model.TopoPosition(record, face[0]);
-    const Vec3<double> second = model.TopoPosition(record, face[1]);
-    const Vec3<double> third = model.TopoPosition(record, face[2]);
-    return face[3] != 0 ? Cross(third - first, model.TopoPosition(record, face[3]) - second)
-                        : Cross(second - first, third - first);
-}
-
-Vec3<double> CentreOf(const CVynData& model, const Data::CElement& record, const SolidFace& face) {
-    Vec3<double> sum;
-    const int corners = face[3] != 0 ? 4 : 3;
-    for (int k = 0; k < corners; ++k) {
-        sum = sum + model.TopoPosition(record, face[static_cast<std::size_t>(k)]);
-    }
-    return sum * (1.0 / corners);
-}
-
 bool IsNormal(const Data::CFaceLoad& load) {
     return load.Axis() == kLocalAxis && load.GetDirection() == Direction::Z;
 }
@@ -82,15 +51,11 @@ bool CNasFile::WriteFaceLoads() {
     for (const int number : m_model->FaceLoadTable().Numbers()) {
         const Data::CFaceLoad& load = m_model->FaceLoad(number);
         SetSubject(L"Face load", number);
-        if (!HasValidCase(load)) {
+        if (!IsLoadWritten(load, {2, 3})) {
             continue;
         }
-        const std::vector<int> elements = LoadedElements(load, 2);
-        for (const int element : elements) {
+        for (const int element : LoadedElements(load, 2)) {
             WriteFaceLoad(load, element);
-        }
-        if (elements.empty() && load.GetLoadedElements(*m_model, 3).empty()) {
-            Skip(L"it loads no face of the file");
         }
     }
     return true;
@@ -111,40 +76,55 @@ bool CNasFile::WriteSolidFaceLoads() {
     return true;
 }
 
-/// Projected pressures act on the area square to them. A force at a point is spread over the face.
-void CNasFile::WriteFaceLoad(const Data::CFaceLoad& load, int element) {
+/// Why a face load can't be written on an element; empty when it can.
+std::wstring CNasFile::FaceLoadFault(const Data::CFaceLoad& load, int element) const {
     const Data::CElement& record = m_model->Elem(element);
-    const SolidFace face = LoadedFace(record, load.Face());
+    const SolidFace face = LoadedFace(record.Type(), load.Face());
     const std::wstring name = L"element " + std::to_wstring(element);
     if (face[0] == 0) {
-        Skip(name + L" has no face " + std::to_wstring(load.Face()));
-        return;
+        return name + L" has no face " + std::to_wstring(load.Face());
     }
     if (!IsTrans(load.GetDirection())) {
-        Skip(L"a pressure can't turn");
-        return;
+        return L"a pressure can't turn";
     }
+    if (!(Length(DoubleArea(*m_model, record, face)) > 0.0)) {
+        return name + L" has no area";
+    }
+    if (load.TypeOf() == FaceLoadType::Point &&
+        !load.ValidatePointLoadPosition(*m_model, element)) {
+        return L"its point does not lie on " + name;
+    }
+    return {};
+}
+
+/// What the values of a load are multiplied by to give the pressure on a face: projected pressures
+/// act on the area square to them, a force at a point is spread over the face.
+double CNasFile::PressureFactor(const Data::CFaceLoad& load, int element,
+                                const std::array<int, 4>& face) const {
+    const Data::CElement& record = m_model->Elem(element);
     const Vec3<double> area = DoubleArea(*m_model, record, face) * 0.5;
-    if (!(Length(area) > 0.0)) {
-        Skip(name + L" has no area");
+    if (load.TypeOf() == FaceLoadType::Point) {
+        return 1.0 / Length(area);
+    }
+    if (!load.IsProjected()) {
+        return 1.0;
+    }
+    const Vec3<double> at = CentreOfFace(*m_model, record, face);
+    const Vec3<double> along = LoadAxes(*m_model, load, element, at).AxisVec(load.GetDirection());
+    return std::abs(Dot(along, area)) / Length(area);
+}
+
+void CNasFile::WriteFaceLoad(const Data::CFaceLoad& load, int element) {
+    if (const std::wstring fault = FaceLoadFault(load, element); !fault.empty()) {
+        Skip(fault);
         return;
     }
-    const bool isPoint = load.TypeOf() == FaceLoadType::Point;
-    if (isPoint && !load.ValidatePointLoadPosition(*m_model, element)) {
-        Skip(L"its point does not lie on " + name);
-        return;
-    }
-    double factor = isPoint ? 1.0 / Length(area) : 1.0;
-    if (load.IsProjected() && !isPoint) {
-        const Vec3<double> at = CentreOf(*m_model, record, face);
-        const Vec3<double> along =
-            LoadAxes(*m_model, load, element, at).AxisVec(load.GetDirection());
-        factor *= std::abs(Dot(along, area)) / Length(area);
-    }
+    const Data::CElement& record = m_model->Elem(element);
+    const SolidFace face = LoadedFace(record.Type(), load.Face());
     StartCard("PLOAD4");
     AddInt(load.LoadCase());
     AddInt(element);
-    AddFacePressures(load, element, face, factor);
+    AddFacePressures(load, element, face, PressureFactor(load, element, face));
     if (record.Is3D()) {
         const FaceNodes nodes = NodesOfFace(record, face);
         AddInt(nodes.g1);

@@ -13,6 +13,9 @@ CNasFile::~CNasFile() = default;
 
 namespace {
 
+constexpr const wchar_t* kNumbersTooHigh =
+    L"The numbers of materials and properties do not fit into a field";
+
 /// The date of the first comment; empty when it can't be made.
 std::string DateText() {
     const std::tm now = Host().LocalTime();
@@ -29,7 +32,7 @@ bool CNasFile::Write() {
         return false;
     }
     if (!m_materials.CreateMap(*m_model)) {
-        AddError(L"The numbers of materials and properties do not fit into a field");
+        AddError(kNumbersTooHigh);
         return false;
     }
     if (m_analysisType == kBuckling && !m_bucklingCase.SetDescription(m_bucklingDescription)) {
@@ -41,6 +44,7 @@ bool CNasFile::Write() {
     m_out = &out;
     m_elementNumber = m_model->HighestElem();
     FindWrittenNodes();
+    FindWrittenProperties();
     FindSectionUses();
 
     using Section = bool (CNasFile::*)();
@@ -56,9 +60,15 @@ bool CNasFile::Write() {
         &CNasFile::WriteJoints,         &CNasFile::WriteConstraintEquations,
         &CNasFile::WriteLoads,          &CNasFile::EndOfData,
     };
-    bool written = true;
+    bool written = NumberGaps();
+    if (!written) {
+        AddError(kNumbersTooHigh);
+    }
     for (const Section section : kSections) {
-        written = written && (this->*section)() && out.Good();
+        written = written && (this->*section)() && out.Good() && !m_isNumberTooHigh;
+    }
+    if (m_isNumberTooHigh) {
+        AddError(L"The numbers of generated elements do not fit into a field");
     }
     written = out.Flush() && written;
     m_out = nullptr;

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <map>
 #include <string>
 #include <string_view>
@@ -24,7 +25,7 @@ class TextOut;
 ///
 /// The sections stand in files named for what they write: NasCaseControl, NasCards (the card
 /// primitives), NasGrids, NasElements, NasLineElements, NasMaterials, NasProperties,
-/// NasConstraints, NasLoads, NasBeamLoads, NasFaceLoads, NasTemperatures.
+/// NasAreaProperties, NasConstraints, NasLoads, NasBeamLoads, NasFaceLoads, NasTemperatures.
 ///
 /// A record that can't be carried over is left out with a note in the error log that names it and
 /// says why. An object writes one file.
@@ -67,6 +68,9 @@ public:
     bool Write() override;
 
 private:
+    /// Groups of loads by the set that a subcase selects them with.
+    enum LoadKinds : unsigned { kMechanical = 1, kThermal = 2, kSelfWeight = 4 };
+
     // --- card primitives
     void StartCard(std::string_view name);
     void CheckContinuation();
@@ -94,6 +98,11 @@ private:
     bool NodePasses(int node) const;
     bool IsNodeWritten(int node) const;
     void FindWrittenNodes();
+    void FindWrittenProperties();
+    bool IsAxisWritten(int axis) const;
+    /// The material that an exported property has first, null when there is none.
+    const Data::CMatAnal* MaterialOf(const std::vector<ExportedProperty>& property) const;
+    bool HasMaterial(const std::vector<ExportedProperty>& property) const;
     /// Why an element is not written; null when it is.
     const wchar_t* ElementFault(int element) const;
     const wchar_t* NodesFault(const Data::CElement& record) const;
@@ -108,8 +117,7 @@ private:
     void WriteTitles();
     void WriteOutputRequests();
     void WriteParameters();
-    bool WriteSubcases();
-    void WriteLoadCaseSubcases(int& next);
+    bool WriteSubcases(int& next);
     void WriteGravitySubcases();
     void WriteCombinationSubcases(int& next);
     void WriteSubcase(int number, const std::wstring& subtitle);
@@ -129,6 +137,8 @@ private:
     bool WriteGrids();
     bool WriteRestraints();
     bool WriteNodeProperties();
+    template <class Acts>
+    void WriteAttached(std::string_view card, int node, int property, Acts acts);
     void WriteNodeSpring(int node, int property);
     void WriteNodeMass(int node, int property);
     void WriteNodeDamper(int node, int property);
@@ -154,6 +164,7 @@ private:
     bool WriteCableMaterials();
     void FindSectionUses();
     const SectionUse& UseOf(int section) const;
+    bool NumberGaps();
     int GapPid(int section, bool isTie) const;
     bool WriteBeamProperties();
     void WriteSectionCards(int section, const ExportedProperty& property);
@@ -181,7 +192,7 @@ private:
     bool WriteBeamLoads();
     bool WriteBeamLoad(const Data::CBeamLoad& load);
     void WriteBeamLoadOn(const Data::CBeamLoad& load, int element);
-    void WriteBeamLoadCard(const Data::CBeamLoad& load, int element, Direction direction,
+    void WriteBeamLoadCard(const Data::CBeamLoad& load, int element, std::string_view type,
                            double share);
     bool WriteAxialLoads();
     void WriteAxialLoad(const Data::CAxialLoad& load, int element);
@@ -191,6 +202,9 @@ private:
     bool WriteFaceLoads();
     bool WriteSolidFaceLoads();
     void WriteFaceLoad(const Data::CFaceLoad& load, int element);
+    std::wstring FaceLoadFault(const Data::CFaceLoad& load, int element) const;
+    double PressureFactor(const Data::CFaceLoad& load, int element,
+                          const std::array<int, 4>& face) const;
     void AddFacePressures(const Data::CFaceLoad& load, int element, const std::array<int, 4>& face,
                           double factor);
     void AddFaceDirection(const Data::CFaceLoad& load, int element);
@@ -205,10 +219,13 @@ private:
     std::vector<int> LoadedElements(const Data::CLoadBase& load, int dimension);
     std::vector<int> LoadedBeams(const Data::CLoadBase& load, bool withRods);
     std::vector<int> LoadedNodes(const Data::CLoadBase& load);
-    bool HasValidCase(const Data::CLoadBase& load);
+    /// Whether a load is in a load case and loads elements of one of the dimensions; notes when
+    /// not.
+    bool IsLoadWritten(const Data::CLoadBase& load, std::initializer_list<int> dimensions = {});
     bool EndOfData();
 
-    // The order of these members is the one that the host documents.
+    // The order of these members is the one that the host documents; the card under construction is
+    // the piece of m_out.
     CMaterialMap m_materials;
     int m_continuations = 0;  ///< markers given so far
     int m_analysisType = kStatic;
@@ -230,8 +247,12 @@ private:
     std::size_t m_lineStart = 0;  ///< where the line of the card begins within the card
     int m_fieldWidth = 16;
     CBitSet m_writtenNodes;
-    int m_firstContinuation = 0;  ///< markers given before the card
-    bool m_hasBadNumber = false;  ///< in the card
+    CBitSet m_writtenSections;
+    CBitSet m_writtenProps2D;
+    CBitSet m_writtenProps3D;
+    bool m_isNumberTooHigh = false;  ///< a generated element number does not fit into a field
+    int m_firstContinuation = 0;     ///< markers given before the card
+    bool m_hasBadNumber = false;     ///< in the card
     const wchar_t* m_subjectKind = L"";
     int m_subjectNumber = 0;
     std::vector<std::uint8_t> m_loadKinds;  ///< by load case

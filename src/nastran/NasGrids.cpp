@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "io/TextOut.h"
 #include "model/VynData.h"
@@ -10,9 +12,6 @@
 namespace Tevra {
 
 namespace {
-
-/// Stiffness below which a direction of a spring at a node is none.
-constexpr double kLeastStiffness = 1e-10;
 
 bool IsFinite(const Vec3<double>& v) {
     return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
@@ -50,12 +49,18 @@ void CNasFile::FindWrittenNodes() {
 }
 
 int CNasFile::CoordinateSystem(int axis) {
-    if (axis <= 0 || m_model->AxisExist(axis)) {
+    if (axis <= 0 || IsAxisWritten(axis)) {
         return axis > 0 ? axis : 0;
     }
-    AddNote(std::wstring(m_subjectKind) + L" " + std::to_wstring(m_subjectNumber) +
-            L" is written in global axes: there is no axis " + std::to_wstring(axis));
+    AddNote(m_subjectKind, m_subjectNumber,
+            L"is written in global axes: there is no axis " + std::to_wstring(axis));
     return 0;
+}
+
+bool CNasFile::IsAxisWritten(int number) const {
+    const Data::CAxis* axis = m_model->AxisTable().Find(number);
+    return axis != nullptr && IsFinite(axis->Origin()) && IsFinite(axis->XAxis()) &&
+           IsFinite(axis->ZAxis());
 }
 
 bool CNasFile::WriteAxes() {
@@ -132,26 +137,28 @@ bool CNasFile::WriteNodeProperties() {
 }
 
 /// Kept as files in the field have it: the property that the card names is not in the file, and the
-/// card has one direction; the stiffness of every direction follows as spring supports.
+/// card has one direction, the first that acts; the stiffness of every direction follows as spring
+/// supports.
+template <class Acts>
+void CNasFile::WriteAttached(std::string_view card, int node, int property, Acts acts) {
+    const auto* const first = std::find_if(std::begin(kDirections), std::end(kDirections), acts);
+    StartCard(card);
+    AddInt(NextElement());
+    AddInt(property);
+    AddInt(node);
+    AddInt(Nas::DigitOf(first != std::end(kDirections) ? *first : Direction::X));
+    EndCard();
+}
+
 void CNasFile::WriteNodeSpring(int node, int property) {
     SetSubject(L"The spring at node", node);
     if (!m_model->SpringPropExist(property)) {
         Skip(L"its property does not exist");
         return;
     }
-    Direction first = Direction::X;
-    for (const Direction d : kDirections) {
-        if (m_model->SpringProp(property).Stiff(d) > kLeastStiffness) {
-            first = d;
-            break;
-        }
-    }
-    StartCard("CELAS1");
-    AddInt(NextElement());
-    AddInt(property);
-    AddInt(node);
-    AddInt(Nas::DigitOf(first));
-    EndCard();
+    const Data::CSpringProp& spring = m_model->SpringProp(property);
+    WriteAttached("CELAS1", node, property,
+                  [&spring](Direction d) { return spring.Stiff(d) > Nas::kLeastStiffness; });
 }
 
 void CNasFile::WriteNodeMass(int node, int property) {
@@ -177,26 +184,15 @@ void CNasFile::WriteNodeMass(int node, int property) {
     EndCard();
 }
 
-/// Kept as files in the field have it: the property that the card names is not in the file.
 void CNasFile::WriteNodeDamper(int node, int property) {
     SetSubject(L"The damper at node", node);
     if (!m_model->DamperPropExist(property)) {
         Skip(L"its property does not exist");
         return;
     }
-    Direction first = Direction::X;
-    for (const Direction d : kDirections) {
-        if (m_model->DamperProp(property).Coefficient(d) != 0.0) {
-            first = d;
-            break;
-        }
-    }
-    StartCard("CDAMP1");
-    AddInt(NextElement());
-    AddInt(property);
-    AddInt(node);
-    AddInt(Nas::DigitOf(first));
-    EndCard();
+    const Data::CDamperProp& damper = m_model->DamperProp(property);
+    WriteAttached("CDAMP1", node, property,
+                  [&damper](Direction d) { return damper.Coefficient(d) != 0.0; });
 }
 
 bool CNasFile::WriteSpringSupports() {
@@ -210,7 +206,7 @@ bool CNasFile::WriteSpringSupports() {
         SetSubject(L"The spring support at node", number);
         for (const Direction d : kDirections) {
             const double stiffness = m_model->SpringProp(property).Stiff(d);
-            if (stiffness > kLeastStiffness) {
+            if (stiffness > Nas::kLeastStiffness) {
                 WriteGroundSpring(NextElement(), stiffness, number, d);
             }
         }

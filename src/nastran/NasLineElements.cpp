@@ -62,8 +62,7 @@ void CNasFile::WriteLine(int element, std::string_view card) {
     AddLineTail(element, !isGap && !isRod);
     EndCard();
     if (HasSprungEnd(record)) {
-        AddNote(L"Element " + std::to_wstring(element) +
-                L" is written without the springs at its ends");
+        AddNote(L"Element", element, L"is written without the springs at its ends");
     }
 }
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "io/TextOut.h"
 #include "model/VynData.h"
 #include "nastran/ComponentDigits.h"
@@ -16,11 +18,20 @@ bool CNasFile::WriteLoads() {
             WriteCombinations());
 }
 
-bool CNasFile::HasValidCase(const Data::CLoadBase& load) {
+bool CNasFile::IsLoadWritten(const Data::CLoadBase& load, std::initializer_list<int> dimensions) {
     if (load.LoadCase() < 1) {
         Skip(L"it is in no load case");
+        return false;
     }
-    return load.LoadCase() >= 1;
+    const bool loadsAny =
+        dimensions.size() == 0 ||
+        std::any_of(dimensions.begin(), dimensions.end(), [this, &load](int dimension) {
+            return !load.GetLoadedElements(*m_model, dimension).empty();
+        });
+    if (!loadsAny) {
+        Skip(L"it loads no element of its kind");
+    }
+    return loadsAny;
 }
 
 std::vector<int> CNasFile::LoadedNodes(const Data::CLoadBase& load) {
@@ -51,9 +62,6 @@ std::vector<int> CNasFile::LoadedBeams(const Data::CLoadBase& load, bool withRod
                !(withRods && type == ElementType::Rod);
     });
     SkipMany(static_cast<int>(left), L"elements", L"they are no beams");
-    if (elements.empty() && left == 0) {
-        Skip(L"it loads no beam of the file");
-    }
     return elements;
 }
 
@@ -76,10 +84,14 @@ bool CNasFile::WriteAppliedDisplacements() {
 }
 
 void CNasFile::WriteImposed(const Data::CNodeLoad& load) {
-    if (!HasValidCase(load)) {
+    if (!IsLoadWritten(load)) {
         return;
     }
     for (const int node : LoadedNodes(load)) {
+        if (load.Axis() != kLocalAxis && load.Axis() != m_model->Node(node).Axis()) {
+            AddNote(L"The displacement imposed on node", node,
+                    L"is written in the axes of the node, not in those of the load");
+        }
         StartCard("SPCD");
         AddInt(load.LoadCase());
         AddInt(node);
@@ -94,7 +106,7 @@ bool CNasFile::WriteGravity() {
     for (const int number : m_model->GravityLoadTable().Numbers()) {
         const Data::CGravityLoad& load = m_model->GravityLoad(number);
         SetSubject(L"Gravity load", number);
-        if (!HasValidCase(load)) {
+        if (!IsLoadWritten(load)) {
             continue;
         }
         StartCard("GRAV");
@@ -112,7 +124,7 @@ bool CNasFile::WriteNodeLoads() {
     for (const int number : m_model->NodeLoadTable().Numbers()) {
         const Data::CNodeLoad& load = m_model->NodeLoad(number);
         SetSubject(L"Node load", number);
-        if (!HasValidCase(load)) {
+        if (!IsLoadWritten(load)) {
             continue;
         }
         for (const int node : LoadedNodes(load)) {

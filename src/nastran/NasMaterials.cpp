@@ -1,7 +1,79 @@
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+#include <vector>
+
 #include "model/VynData.h"
 #include "nastran/NasFile.h"
 
+// Materials, and which of them and of the properties can be written.
+
 namespace Tevra {
+
+namespace {
+
+bool AreFinite(std::initializer_list<double> values) {
+    return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
+}
+
+/// Fields of a MAT8: E1 E2 NU12, shear moduli xy, zx and yz, density, two expansions.
+std::vector<double> OrthotropicFields(const Data::CMatAnal& m) {
+    return {m.E(0), m.E(1), m.Nu(0), m.G(0), m.G(2), m.G(1), m.Density(), m.Alpha(0), m.Alpha(1)};
+}
+
+/// Fields of a MAT1.
+std::vector<double> IsotropicFields(const Data::CMatAnal& m) {
+    return {m.E(), m.G(), m.Nu(), m.Density(), m.Alpha()};
+}
+
+std::vector<double> FieldsOf(const Data::CMatAnal& m) {
+    return m.IsOrthotropic() ? OrthotropicFields(m) : IsotropicFields(m);
+}
+
+}  // namespace
+
+const Data::CMatAnal* CNasFile::MaterialOf(const std::vector<ExportedProperty>& property) const {
+    if (property.empty()) {
+        return nullptr;
+    }
+    const auto& all = m_materials.Materials();
+    const auto found =
+        std::lower_bound(all.begin(), all.end(), property.front().mid,
+                         [](const ExportedMaterial& entry, int mid) { return entry.mid < mid; });
+    return found != all.end() && found->mid == property.front().mid
+               ? m_model->FindMaterial(found->source)
+               : nullptr;
+}
+
+bool CNasFile::HasMaterial(const std::vector<ExportedProperty>& property) const {
+    const Data::CMatAnal* material = MaterialOf(property);
+    if (material == nullptr) {
+        return false;
+    }
+    const std::vector<double> fields = FieldsOf(*material);
+    return std::all_of(fields.begin(), fields.end(), [](double v) { return std::isfinite(v); });
+}
+
+void CNasFile::FindWrittenProperties() {
+    m_writtenSections = CBitSet(m_model->HighestSection());
+    for (const int number : m_model->SectionTable().Numbers()) {
+        const SectionProperties p = m_model->SectionProp(number, 0, 0.0, true);
+        m_writtenSections.Set(number, HasMaterial(m_materials.Prop1D(number)) &&
+                                          AreFinite({p.area, p.iyy, p.izz, p.iyz, p.j}));
+    }
+    m_writtenProps2D = CBitSet(m_model->HighestProp2D());
+    for (const int number : m_model->Prop2DTable().Numbers()) {
+        const Data::CProp2D& p = m_model->Prop2D(number);
+        m_writtenProps2D.Set(number, !p.IsLoadPanel() && HasMaterial(m_materials.Prop2D(number)) &&
+                                         p.InplaneThickness() > 0.0 &&
+                                         AreFinite({p.InplaneThickness(), p.BendingThickness(),
+                                                    p.ShearThickness(), p.AdditionalMass()}));
+    }
+    m_writtenProps3D = CBitSet(m_model->HighestProp3D());
+    for (const int number : m_model->Prop3DTable().Numbers()) {
+        m_writtenProps3D.Set(number, HasMaterial(m_materials.Prop3D(number)));
+    }
+}
 
 bool CNasFile::WriteMaterials() {
     StartSection("Materials");
@@ -14,16 +86,8 @@ bool CNasFile::WriteMaterials() {
         const Data::CMatAnal& m = *material;
         StartCard(m.IsOrthotropic() ? "MAT8" : "MAT1");
         AddInt(entry.mid);
-        if (m.IsOrthotropic()) {
-            // E1 E2 NU12, shear moduli xy, zx and yz, density, two expansions.
-            for (const double value : {m.E(0), m.E(1), m.Nu(0), m.G(0), m.G(2), m.G(1), m.Density(),
-                                       m.Alpha(0), m.Alpha(1)}) {
-                AddReal(value);
-            }
-        } else {
-            for (const double value : {m.E(), m.G(), m.Nu(), m.Density(), m.Alpha()}) {
-                AddReal(value);
-            }
+        for (const double value : FieldsOf(m)) {
+            AddReal(value);
         }
         EndCard();
     }

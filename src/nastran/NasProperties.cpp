@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <cmath>
+#include <cstdint>
 #include <string_view>
 
 #include "model/SecGeom.h"
@@ -136,22 +138,36 @@ const SectionUse& CNasFile::UseOf(int section) const {
     return found != m_sectionUses.end() ? found->second : kNone;
 }
 
-/// The first kind of gap of a section has its number; the second kind, and a gap of a section that
-/// bars or rods have too, one above all sections.
+/// Gaps have the number of their section when nothing else of it has; else, and the second kind of
+/// gap, one above all sections, and the last of three a number of its own.
+bool CNasFile::NumberGaps() {
+    std::int64_t next = m_materials.NextProperty();
+    for (auto& [section, use] : m_sectionUses) {
+        const bool isShared = use.byBar || use.byBeam || use.byRod;
+        const int above = m_model->HighestSection() + section;
+        const bool hasBoth = use.firstTie != 0 && use.firstStrut != 0;
+        int& first = use.firstTie != 0 && (!hasBoth || use.firstTie < use.firstStrut)
+                         ? use.tiePid
+                         : use.strutPid;
+        int& second = &first == &use.tiePid ? use.strutPid : use.tiePid;
+        first = isShared ? above : section;
+        if (hasBoth) {
+            second = isShared ? static_cast<int>(std::min<std::int64_t>(next++, INT_MAX)) : above;
+        }
+    }
+    return next - 1 <= CMaterialMap::kHighestNumber;
+}
+
 int CNasFile::GapPid(int section, bool isTie) const {
-    const SectionUse& use = UseOf(section);
-    const bool shares = use.firstTie != 0 && use.firstStrut != 0;
-    const bool tieFirst = use.firstTie < use.firstStrut;
-    const bool isSecond = shares ? isTie != tieFirst : !use.ByGapAlone();
-    return isSecond ? m_model->HighestSection() + section : section;
+    return isTie ? UseOf(section).tiePid : UseOf(section).strutPid;
 }
 
 bool CNasFile::WriteBeamProperties() {
     StartSection("Beam properties");
     for (const int number : m_model->SectionTable().Numbers()) {
         SetSubject(L"Section", number);
-        if (m_materials.Prop1D(number).empty()) {
-            Skip(L"it has no material");
+        if (!m_writtenSections.Test(number)) {
+            Skip(L"it has no material, or a value is not a number");
             continue;
         }
         for (const ExportedProperty& property : m_materials.Prop1D(number)) {
@@ -289,8 +305,7 @@ void CNasFile::WriteGaps(int section) {
 /// The stiffness of a closed gap acts in compression, that of an open one in tension; both are EA/L
 /// of the first element that has the section.
 void CNasFile::WriteGap(int section, int element, bool isTie) {
-    const Data::CMatAnal* material =
-        m_model->FindMaterial(m_model->Section(section).Component(1).Material());
+    const Data::CMatAnal* material = MaterialOf(m_materials.Prop1D(section));
     const double e = material != nullptr ? material->E() : 0.0;
     const double stiffness =
         e * m_model->SectionProp(section, 0, 0.0, true).area / m_model->ElemLen(element);

@@ -1,5 +1,4 @@
 #include <cmath>
-#include <optional>
 
 #include "model/Faces.h"
 #include "model/VynData.h"
@@ -60,12 +59,32 @@ double ForcePerE(const Data::CAxialLoad& load, double e, double area, double len
 
 }  // namespace
 
+bool CNasFile::WriteReferenceTemperature() {
+    const bool anyThermal =
+        m_model->NumAxialLoad() + m_model->NumBeamThermalLoad() + m_model->NumInPlaneLoad() > 0 ||
+        m_model->NumFaceThermalLoad() > 0;
+    if (!anyThermal) {
+        return true;
+    }
+    StartSection("Refernce temperature");
+    for (int i = 1; i <= m_model->HighestLoadCase(); ++i) {
+        if (HasLoad(i, kThermal)) {
+            SetSubject(L"Load case", i);
+            StartCard("TEMPD");
+            AddInt(i);
+            AddReal(0.0);  // loads are changes of temperature
+            EndCard();
+        }
+    }
+    return true;
+}
+
 bool CNasFile::WriteAxialLoads() {
     StartSection("Axial loads - transferred as thermal loads");
     for (const int number : m_model->AxialLoadTable().Numbers()) {
         const Data::CAxialLoad& load = m_model->AxialLoad(number);
         SetSubject(L"Axial load", number);
-        if (!HasValidCase(load)) {
+        if (!IsLoadWritten(load, {1})) {
             continue;
         }
         for (const int element : LoadedBeams(load, true)) {
@@ -79,8 +98,7 @@ bool CNasFile::WriteAxialLoads() {
 /// alpha), along its y +P yoff / (E Izz alpha), as the target's z is the host's -y.
 void CNasFile::WriteAxialLoad(const Data::CAxialLoad& load, int element) {
     const int section = m_model->Elem(element).Property();
-    const Data::CMatAnal* material =
-        m_model->FindMaterial(m_model->Section(section).Component(1).Material());
+    const Data::CMatAnal* material = MaterialOf(m_materials.Prop1D(section));
     const double e = material != nullptr ? material->E() : 0.0;
     const double alpha = material != nullptr ? material->Alpha() : 0.0;
     const SectionProperties p = m_model->SectionProp(section, 0, 0.0, true);
@@ -102,7 +120,7 @@ bool CNasFile::WriteBeamTemperatures() {
     for (const int number : m_model->BeamThermalLoadTable().Numbers()) {
         const Data::CBeamThermalLoad& load = m_model->BeamThermalLoad(number);
         SetSubject(L"Beam thermal load", number);
-        if (!HasValidCase(load)) {
+        if (!IsLoadWritten(load, {1})) {
             continue;
         }
         for (const int element : LoadedBeams(load, true)) {
@@ -148,18 +166,14 @@ bool CNasFile::WriteInPlaneLoads() {
     for (const int number : m_model->InPlaneLoadTable().Numbers()) {
         const Data::CInPlaneLoad& load = m_model->InPlaneLoad(number);
         SetSubject(L"In-plane load", number);
-        if (!HasValidCase(load)) {
+        if (!IsLoadWritten(load, {2})) {
             continue;
         }
         if (load.TypeOf() == AxialLoadType::LackOfFit) {
             Skip(L"a plane has no lack of fit");
             continue;
         }
-        const std::vector<int> elements = LoadedElements(load, 2);
-        if (elements.empty()) {
-            Skip(L"it loads no plane of the file");
-        }
-        for (const int element : elements) {
+        for (const int element : LoadedElements(load, 2)) {
             WriteInPlaneLoad(load, element);
         }
     }
@@ -167,14 +181,18 @@ bool CNasFile::WriteInPlaneLoads() {
 }
 
 /// A force N per length at the offset e of a strip of thickness t: T = -N / (E t alpha), and with
-/// the second moment t^3 / 12 of the strip T' = -12 N e / (E t^3 alpha). A strain is N / (E t).
+/// the second moment b^3 / 12 of its bending thickness b, T' = -12 N e / (E b^3 alpha). A strain is
+/// N / (E t).
 void CNasFile::WriteInPlaneLoad(const Data::CInPlaneLoad& load, int element) {
-    const Data::CProp2D& property = m_model->Prop2D(m_model->Elem(element).Property());
-    const Data::CMatAnal* material = m_model->FindMaterial(property.Material());
+    const int number = m_model->Elem(element).Property();
+    const Data::CProp2D& property = m_model->Prop2D(number);
+    const Data::CMatAnal* material = MaterialOf(m_materials.Prop2D(number));
     const double e = material != nullptr ? material->E() : 0.0;
     const double alpha = material != nullptr ? material->Alpha() : 0.0;
     const double t = property.InplaneThickness();
-    if (!IsUsable(e) || !IsUsable(alpha) || !IsUsable(t * t * alpha)) {
+    const double bending = property.BendingThickness();
+    const bool hasBending = load.Offset() == 0.0 || IsUsable(std::pow(bending, 3.0) * alpha);
+    if (!IsUsable(e) || !IsUsable(alpha) || !IsUsable(t * alpha) || !hasBending) {
         Skip(L"element " + std::to_wstring(element) +
              L" has no modulus, expansion coefficient or thickness");
         return;
@@ -182,7 +200,8 @@ void CNasFile::WriteInPlaneLoad(const Data::CInPlaneLoad& load, int element) {
     const double strain =
         load.TypeOf() == AxialLoadType::Strain ? load.Value() : load.Value() / (e * t);
     const double gradient =
-        load.Offset() != 0.0 ? -12.0 * strain * load.Offset() / (t * t * alpha) : 0.0;
+        load.Offset() != 0.0 ? -12.0 * strain * t * load.Offset() / (std::pow(bending, 3.0) * alpha)
+                             : 0.0;
     WriteTempp1(load.LoadCase(), element, -strain / alpha, gradient);
 }
 
@@ -191,19 +210,16 @@ bool CNasFile::WriteFaceTemperatures() {
     for (const int number : m_model->FaceThermalLoadTable().Numbers()) {
         const Data::CFaceThermalLoad& load = m_model->FaceThermalLoad(number);
         SetSubject(L"Face thermal load", number);
-        if (!HasValidCase(load)) {
+        if (!IsLoadWritten(load, {2})) {
             continue;
         }
-        const std::vector<int> elements = LoadedElements(load, 2);
-        if (elements.empty()) {
-            Skip(L"it loads no plane of the file");
-        }
-        for (const int element : elements) {
+        for (const int element : LoadedElements(load, 2)) {
             const Data::CElement& record = m_model->Elem(element);
             const Faces faces = FacesOf(load, CornerCount(record.Type()));
-            const double t = m_model->Prop2D(record.Property()).InplaneThickness();
+            const double t = m_model->Prop2D(record.Property()).Thickness();
+            const double difference = faces.top - faces.bottom;
             WriteTempp1(load.LoadCase(), element, 0.5 * (faces.top + faces.bottom),
-                        (faces.top - faces.bottom) / t);
+                        difference != 0.0 ? difference / t : 0.0);
         }
     }
     return true;

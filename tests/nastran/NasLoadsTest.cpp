@@ -91,6 +91,83 @@ TEST_F(NasLoads, PlaneTemperatures) {
     EXPECT_DOUBLE_EQ(cards[1].Real(4), 100.0);
 }
 
+// The membrane is thin, the bending thickness and the distance of the faces are not.
+TEST_F(NasLoads, PlaneTemperaturesByTheThicknessThatActs) {
+    CVynData model = PlateModel();
+    Data::CProp2D property = model.Prop2D(1);
+    property.SetThickness(0.25);
+    property.SetInplane(0.001);
+    model.SetProp2D(1, property);
+    Data::CInPlaneLoad inPlane;
+    inPlane.SetValue(1e3);
+    inPlane.SetOffset(0.05);
+    inPlane.SetLoadedEntities(One());
+    model.SetInPlaneLoad(1, inPlane);
+    Data::CFaceThermalLoad thermal;
+    thermal.SetType(FaceThermalType::Gradient);
+    thermal.SetValues({10.0, -10.0, 0, 0, 0, 0, 0, 0});
+    thermal.SetLoadedEntities(One());
+    model.SetFaceThermalLoad(1, thermal);
+    const auto cards = Write(model).Named("TEMPP1");
+    ASSERT_EQ(cards.size(), 2U);
+    EXPECT_NEAR(cards[0].Real(3), -0.5, 1e-6);     // 1e3 / (2e11 0.001 1e-5)
+    EXPECT_NEAR(cards[0].Real(4), -0.0192, 1e-8);  // 12 1e3 0.05 / (2e11 0.25^3 1e-5)
+    EXPECT_DOUBLE_EQ(cards[1].Real(4), 80.0);
+}
+
+// Along (0.6, 0.8) in plan the beam along X has the sine 0.8; its components are not projected
+// again.
+TEST_F(NasLoads, ProjectedBeamLoadInAUserAxis) {
+    CVynData model = BeamModel();
+    Data::CAxis axis;
+    axis.SetXAxis({0.6, 0.8, 0.0});
+    axis.SetXYPlane({-0.8, 0.6, 0.0});
+    model.SetAxis(3, axis);
+    Data::CBeamLoad load;
+    load.SetAxis(3);
+    load.SetDirection(Direction::X);
+    load.SetProjected(true);
+    load.SetPoint(1, {0.0, true, 100.0});
+    load.SetLoadedEntities(One());
+    model.SetBeamLoad(1, load);
+    const auto cards = Write(model).Named("PLOAD1");
+    ASSERT_EQ(cards.size(), 2U);
+    EXPECT_EQ(cards[0].Field(3), "FX");
+    EXPECT_DOUBLE_EQ(cards[0].Real(6), 48.0);
+    EXPECT_EQ(cards[1].Field(3), "FY");
+    EXPECT_DOUBLE_EQ(cards[1].Real(6), 64.0);
+}
+
+TEST_F(NasLoads, SettlementInOtherAxesThanTheNode) {
+    CVynData model = BeamModel();
+    Data::CAxis axis;
+    axis.SetXAxis({0.0, 1.0, 0.0});
+    axis.SetXYPlane({-1.0, 0.0, 0.0});
+    model.SetAxis(1, axis);
+    Data::CNode node = model.Node(2);
+    node.SetAxis(1);
+    model.SetNode(2, node);
+    Data::CNodeLoad settlement;
+    settlement.SetValue(-0.01);
+    settlement.SetLoadedEntities({L"1 2", SelType::Node});
+    model.SetSettlement(1, settlement);
+    EXPECT_EQ(Write(model).Count("SPCD"), 2);
+    EXPECT_TRUE(HasNote(L"The displacement imposed on node 2 is written in the axes of the node"));
+    EXPECT_FALSE(HasNote(L"node 1"));
+}
+
+TEST_F(NasLoads, LoadCasesWithoutBound) {
+    CVynData model = BeamModel();
+    Data::CNodeLoad load;
+    load.SetLoadCase(99'999'999);
+    load.SetLoadedEntities({L"2", SelType::Node});
+    model.SetNodeLoad(1, load);
+    Write(model);
+    EXPECT_FALSE(written);
+    EXPECT_TRUE(writer.ErrorLog().starts_with(
+        L"<red>Error:          </red>There is a subcase for every number"));
+}
+
 struct BeamCase {
     BeamLoadType type;
     int axis;
@@ -155,6 +232,7 @@ TEST_F(NasLoads, TrilinearLoadStopsTheExport) {
     EXPECT_EQ(text.find("ENDDATA"), std::string::npos);
     EXPECT_TRUE(writer.ErrorLog().starts_with(
         L"<red>Error:          </red>this feature does not support non-uniform member loads"));
+    EXPECT_TRUE(HasNote(L"Beam load 1 is trilinear"));
 }
 
 TEST_F(NasLoads, FaceLoadsNameTheirDirection) {
@@ -228,9 +306,9 @@ TEST_F(NasLoads, LoadsOfWhatIsNotWritten) {
     EXPECT_EQ(deck.Count("FORCE"), 2);
     EXPECT_EQ(deck.Count("CBAR"), 1);
     EXPECT_EQ(deck.Count("GRID"), 2);
-    for (const int element : {2, 3, 4, 5}) {
-        EXPECT_TRUE(HasNote(L"Element " + std::to_wstring(element) + L" is not written: "));
-    }
+    EXPECT_TRUE(HasNote(L"Element 2, 4 (2 in all) are not written: one of its nodes"));
+    EXPECT_TRUE(HasNote(L"Element 3 is not written: it has no length"));
+    EXPECT_TRUE(HasNote(L"Element 5 is not written: its property is not in the file"));
     EXPECT_TRUE(HasNote(L"Node load 1 is not written for 1 of its nodes"));
     EXPECT_TRUE(deck.faults.empty());
     EXPECT_EQ(TestSupport::OpenReferences(deck), std::vector<std::string>{});

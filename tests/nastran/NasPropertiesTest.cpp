@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "nastran/NasFixture.h"
 
 namespace Tevra {
@@ -21,6 +23,52 @@ TEST_F(NasProperties, TiesAndStrutsOfOneSection) {
                                       "4.000000e+9", "0.000000e+0"}));
     EXPECT_EQ(deck.Named("CGAP").at(1).Int(2), 2);
     EXPECT_EQ(deck.Count("PBARL"), 0);
+}
+
+TEST_F(NasProperties, GapsOfASectionThatBarsAndRodsHave) {
+    CVynData model = BeamModel();
+    model.SetElem(2, Data::CElement(ElementType::Rod, {1, 2}, 1));
+    model.SetElem(3, Data::CElement(ElementType::Tie, {1, 2}, 1));
+    model.SetElem(4, Data::CElement(ElementType::Strut, {1, 2}, 1));
+    const auto deck = Write(model);
+    EXPECT_EQ(deck.Named("CGAP").at(0).Int(2), 2);
+    EXPECT_EQ(deck.Named("CGAP").at(1).Int(2), 3);
+    EXPECT_EQ(TestSupport::SharedNumbers(deck), Fields{});
+    EXPECT_EQ(TestSupport::OpenReferences(deck), Fields{});
+}
+
+// The material of a plane of layers is that of its first layer, in the card and in its loads.
+TEST_F(NasProperties, MaterialOfLayers) {
+    CVynData model = PlateModel();
+    Data::CProp2D property;
+    property.SetThickness(0.2);
+    property.SetLayers({{1, 0.2, 0.0}});
+    model.SetProp2D(1, property);
+    Data::CInPlaneLoad load;
+    load.SetValue(4e5);
+    load.SetLoadedEntities({L"1", SelType::Element});
+    model.SetInPlaneLoad(1, load);
+    const auto deck = Write(model);
+    EXPECT_EQ(deck.Named("PSHELL").at(0).Int(2), 1);
+    ASSERT_EQ(deck.Count("TEMPP1"), 1) << "not dropped for want of a modulus";
+    EXPECT_NEAR(deck.Named("TEMPP1")[0].Real(3), -1.0, 1e-6);
+}
+
+TEST_F(NasProperties, WhatIsNotANumberTakesItsUsersAlong) {
+    CVynData model = BeamModel();
+    model.SetMatAnal(2, Data::CMatAnal(L"Odd", std::nan(""), 0.25, 7850.0, 1e-5));
+    model.SetSection(2, Data::CSection(L"R", L"STD%R%400%200", Generic(2)));
+    model.SetElem(2, Data::CElement(ElementType::Beam, {1, 2}, 2));
+    Data::CBeamLoad load;
+    load.SetLoadedEntities({L"all", SelType::Element});
+    model.SetBeamLoad(1, load);
+    const auto deck = Write(model);
+    EXPECT_TRUE(written);
+    EXPECT_EQ(TestSupport::OpenReferences(deck), Fields{});
+    EXPECT_EQ(deck.Count("CBAR"), 1);
+    EXPECT_EQ(deck.Count("PLOAD1"), 1);
+    EXPECT_TRUE(HasNote(L"Material 2 is not written"));
+    EXPECT_TRUE(HasNote(L"Section 2 is not written"));
 }
 
 TEST_F(NasProperties, RodsAndCables) {

@@ -33,7 +33,14 @@ struct NasDeck {
 
 NasDeck ReadNasDeck(const std::string& text);
 
-/// References of a deck that nothing resolves, as "CBAR 3: no grid 7".
+/// References of a deck that nothing of the right kind resolves: "CBAR 3: field 3 refers to 7".
 std::vector<std::string> OpenReferences(const NasDeck& deck);
+
+/// Numbers that two cards have which number the same kind of thing: "CBAR 3".
+std::vector<std::string> SharedNumbers(const NasDeck& deck);
+
+/// Sets that case control and LOAD cards name and that have no cards: "LOAD 3". Cases without loads
+/// have none.
+std::vector<std::string> OpenSets(const NasDeck& deck, const std::set<std::string>& emptyCases);
 
 }  // namespace Tevra::TestSupport

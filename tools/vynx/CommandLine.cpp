@@ -89,6 +89,10 @@ public:
             .add_option("--from", m_source.from,
                         "Format of " + name + ", when its extension does not say")
             ->type_name("FORMAT");
+        command
+            .add_option("--catalogue", m_source.catalogue,
+                        "Profiles that sections may name besides those known; docs/sections.md")
+            ->type_name("FILE");
         m_options.AddTo(command, &Format::readOptions);
     }
     ModelSource Given() const {
@@ -142,9 +146,8 @@ void AddImport(CLI::App& app) {
         command->add_flag("--no")->description("Answer questions with no")->excludes(yes);
     command->footer(kFooter);
     command->callback([=] {
-        if (yes->count() + no->count() > 0) {
-            ToolHost::SetAnswer(yes->count() > 0);
-        }
+        const bool isGiven = yes->count() + no->count() > 0;
+        ToolHost::SetAnswer(isGiven ? std::optional(yes->count() > 0) : std::nullopt);
         request->source = source->Given();
         Import(*request);
     });

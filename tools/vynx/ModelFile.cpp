@@ -1,5 +1,6 @@
 #include "vynx/ModelFile.h"
 
+#include "model/ProfileCatalogue.h"
 #include "model/References.h"
 #include "platform/text/Utf8.h"
 #include "vynx/Console.h"
@@ -49,6 +50,17 @@ ReadJob Read(const ModelSource& source, const Format& format, Tevra::CVynData& m
     return job;
 }
 
+/// Adds the profiles of a file to those that come with the library.
+void LoadCatalogue(const std::string& file) {
+    using Tevra::Data::CProfileCatalogue;
+    CProfileCatalogue catalogue = *CProfileCatalogue::Current();
+    std::wstring error;
+    if (!catalogue.Load(Tevra::Text::FromUtf8(file), error)) {
+        throw Failure(kFailed, file + ": " + Tevra::Text::ToUtf8(error));
+    }
+    CProfileCatalogue::SetCurrent(std::move(catalogue));
+}
+
 void SayDanglingReferences(const std::string& file, const Format& format,
                            const Tevra::CVynData& model) {
     using namespace Tevra::Util;
@@ -66,6 +78,9 @@ void SayDanglingReferences(const std::string& file, const Format& format,
 }  // namespace
 
 SkippedBlocks LoadModel(const ModelSource& source, Tevra::CVynData& model) {
+    if (!source.catalogue.empty()) {
+        LoadCatalogue(source.catalogue);
+    }
     const Format& format = FormatOf(source.file, source.from);
     ReadJob job = Read(source, format, model);
     SayDanglingReferences(source.file, format, model);

@@ -10,8 +10,9 @@ namespace Vynx {
 /// A file to read a model from, and how.
 struct ModelSource {
     std::string file;
-    std::string from{};      ///< format of the file, empty: by extension
-    GivenOptions options{};  ///< of the format's reader
+    std::string from{};       ///< format of the file, empty: by extension
+    GivenOptions options{};   ///< of the format's reader
+    std::string catalogue{};  ///< file of profiles that sections may name, empty for none
 };
 
 /// Reads a model file. Numbers that refer to records which do not exist are named on standard

@@ -4,6 +4,7 @@
 #include <climits>
 #include <cmath>
 
+#include "platform/text/Numbers.h"
 #include "platform/text/Utf8.h"
 
 namespace Tevra {
@@ -43,8 +44,7 @@ std::wstring QuorlFields::Text() {
 int QuorlFields::IntFrom(int least) {
     const std::string_view field = Next();
     int value = 0;
-    const auto [end, error] = std::from_chars(field.data(), field.data() + field.size(), value);
-    m_good = m_good && error == std::errc() && end == field.data() + field.size() && value >= least;
+    m_good = m_good && Tevra::Text::ReadInt(field, value) && value >= least;
     return m_good ? value : 0;
 }
 
@@ -67,9 +67,7 @@ int QuorlFields::Reference() {
 double QuorlFields::Real() {
     const std::string_view field = Next();
     double value = 0.0;
-    const auto [end, error] = std::from_chars(field.data(), field.data() + field.size(), value);
-    m_good = m_good && error == std::errc() && end == field.data() + field.size() &&
-             std::isfinite(value);
+    m_good = m_good && Tevra::Text::ReadReal(field, value);
     return m_good ? value : 0.0;
 }
 

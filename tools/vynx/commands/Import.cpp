@@ -9,7 +9,7 @@ void Import(const ImportRequest& request) {
     if (request.into.empty()) {
         LoadToWrite(request.source, model);
     } else {
-        LoadToWrite({.file = request.into}, model);
+        LoadToWrite({.file = request.into, .catalogue = request.source.catalogue}, model);
         LoadInto(request.source, model);
     }
     const Format& document = *FindFormat("document");

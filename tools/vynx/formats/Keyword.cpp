@@ -20,6 +20,9 @@ bool Read(ReadJob& job) {
     const Tevra::DynaReport& report = reader.Report();
     const auto& skipped = report.skipped.ByName();
     job.skipped.assign(skipped.begin(), skipped.end());
+    if (read && report.nodes + report.elements == 0) {
+        job.notes.emplace_back("no nodes and no elements were read");
+    }
     Note(job, report.nodesReplaced, "nodes replaced by later ones of the same number");
     Note(job, report.elementsReplaced, "elements replaced by later ones of the same number");
     Note(job, report.massesReplaced, "masses replaced by later ones at the same node");

@@ -16,28 +16,18 @@ int AnalysisTypeOf(const std::string& word) {
     return word == "buckling" ? Tevra::CNasFile::kBuckling : Tevra::CNasFile::kStatic;
 }
 
-/// The first beam load that no card can carry, 0 none.
-int LoadNotCarried(const Tevra::CVynData& model) {
-    for (const int number : model.BeamLoadTable().Numbers()) {
-        if (model.BeamLoad(number).TypeOf() == Tevra::BeamLoadType::Trilinear) {
-            return number;
-        }
+std::string Lacks(const Tevra::CVynData& /*model*/, const OptionValues& options) {
+    if (options.Text("analysis") != "buckling") {
+        return {};
     }
-    return 0;
-}
-
-std::string Lacks(const Tevra::CVynData& model, const OptionValues& options) {
-    const int load = options.Flag("no-loads") ? 0 : LoadNotCarried(model);
-    if (load != 0) {
-        return "beam load " + std::to_string(load) +
-               " is trilinear, which no card can carry; --no-loads writes the rest";
+    const std::string text = options.Text("buckling");
+    const Tevra::CCaseDesc loads(Tevra::Text::FromUtf8(text));
+    if (!loads.IsValid()) {
+        return "--buckling " + text + ": the loads can't be read; expected \"1.0L1+0.5L2\"";
     }
-    const bool isBuckling = options.Text("analysis") == "buckling";
-    const Tevra::CCaseDesc loads(Tevra::Text::FromUtf8(options.Text("buckling")));
-    if (isBuckling && (!loads.IsValid() || loads.Factors(0).empty())) {
-        return "--analysis buckling needs loads, such as --buckling \"1.0L1+0.5L2\"";
-    }
-    return {};
+    return loads.Factors(0).empty()
+               ? "--analysis buckling needs loads, such as --buckling \"1.0L1+0.5L2\""
+               : "";
 }
 
 /// The report beside the file, whole or not at all.

@@ -58,7 +58,8 @@ bool Write(ExportJob& job) {
     try {
         written = exporter.WriteTables() && exporter.FailedFiles().empty();
     } catch (const fs::filesystem_error& error) {
-        stop = '\n' + error.path1().string() + ": can't be made: " + error.code().message();
+        stop = '\n' + error.path1().string() + ": can't be made: " + error.code().message() +
+               "\nnothing was written of the tables after it";
     }
     if (!written) {
         job.log = Tevra::Text::FromUtf8(Report(exporter) + stop);

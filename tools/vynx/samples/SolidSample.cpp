@@ -98,7 +98,7 @@ void AddResults(CVynData& model, const NodeGrid& grid) {
 }  // namespace
 
 void FillSolids(CVynData& model, int nodes) {
-    const int side = std::max(1, static_cast<int>(std::lround(std::cbrt(nodes)))) + 1;
+    const int side = std::max(2, static_cast<int>(std::lround(std::cbrt(nodes))));
     const NodeGrid grid(side, side, side, {kSide, kSide, kSide});
     BeginSample(model, L"Block of solids", {L"Tension", L"Self weight"});
     AddBlock(model, grid);

@@ -1,0 +1,65 @@
+#include "io/GroupedNotes.h"
+
+#include <algorithm>
+
+namespace Tevra {
+
+namespace {
+
+/// Ranges of numbers that a sentence names; the rest are counted.
+constexpr std::size_t kMostRanges = 20;
+
+}  // namespace
+
+void CGroupedNotes::Add(const wchar_t* kind, int number, const std::wstring& what) {
+    // What comes now came before as a rule: look from the end.
+    const auto group = std::find_if(m_groups.rbegin(), m_groups.rend(), [&](const Group& g) {
+        return g.what == what && g.kind == kind;
+    });
+    if (group == m_groups.rend()) {
+        m_groups.push_back({kind, what, {{number, number}}});
+        return;
+    }
+    Range& last = group->numbers.back();
+    if (number == last.last + 1) {
+        last.last = number;
+    } else if (number > last.last) {
+        group->numbers.push_back({number, number});
+    } else if (std::none_of(group->numbers.begin(), group->numbers.end(), [number](const Range& r) {
+                   return r.first <= number && number <= r.last;
+               })) {
+        group->numbers.push_back({number, number});
+    }
+}
+
+std::wstring CGroupedNotes::NumbersOf(const Group& group) {
+    std::wstring text;
+    long long count = 0;
+    for (std::size_t i = 0; i < group.numbers.size(); ++i) {
+        const Range& range = group.numbers[i];
+        count += static_cast<long long>(range.last) - range.first + 1;
+        if (i < kMostRanges) {
+            text += (i > 0 ? L", " : L"") + std::to_wstring(range.first) +
+                    (range.last > range.first ? L" to " + std::to_wstring(range.last) : L"");
+        }
+    }
+    if (count > 1) {
+        text += (group.numbers.size() > kMostRanges ? L" ... (" : L" (") + std::to_wstring(count) +
+                L" in all)";
+    }
+    return text;
+}
+
+std::vector<std::wstring> CGroupedNotes::Sentences() const {
+    std::vector<std::wstring> sentences;
+    for (const Group& group : m_groups) {
+        const bool isOne =
+            group.numbers.size() == 1 && group.numbers[0].first == group.numbers[0].last;
+        const bool isIs = group.what.starts_with(L"is ");
+        sentences.push_back(group.kind + L" " + NumbersOf(group) + L" " +
+                            (isIs && !isOne ? L"are " + group.what.substr(3) : group.what));
+    }
+    return sentences;
+}
+
+}  // namespace Tevra
