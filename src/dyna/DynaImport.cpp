@@ -186,9 +186,6 @@ bool CDynaImport::IsFurtherLine(std::string_view line, const DynaFurtherLine& fu
     if (!card.Good()) {
         return Fail(what + card.Error());
     }
-    if (line.size() > static_cast<std::size_t>(further.fields * further.width)) {
-        return Fail(what + "the line has more fields");
-    }
     CDynaCard entry(line);
     entry.Number();
     entry.Reference();

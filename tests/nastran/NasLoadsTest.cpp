@@ -147,7 +147,7 @@ TEST_F(NasLoads, SettlementInOtherAxesThanTheNode) {
     Data::CNode node = model.Node(2);
     node.SetAxis(1);
     model.SetNode(2, node);
-    Data::CNodeLoad settlement;
+    Data::CSettlement settlement;
     settlement.SetValue(-0.01);
     settlement.SetLoadedEntities({L"1 2", SelType::Node});
     model.SetSettlement(1, settlement);
