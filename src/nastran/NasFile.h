@@ -17,6 +17,7 @@
 namespace Tevra {
 
 class TextOut;
+struct LoadedFace;
 
 /// Writes the model as one NASTRAN input file: executive control, case control with a subcase for
 /// each load case and each combination, and bulk data in fixed fields.
@@ -189,8 +190,7 @@ private:
     bool WriteFaceLoads();
     bool WriteSolidFaceLoads();
     void WriteFaceLoad(const Data::CFaceLoad& load, int element);
-    void AddFacePressures(const Data::CFaceLoad& load, int element, const std::array<int, 4>& face,
-                          double factor);
+    void AddFacePressures(const Data::CFaceLoad& load, int element, const LoadedFace& face);
     void AddFaceDirection(const Data::CFaceLoad& load, int element);
     bool WriteInPlaneLoads();
     void WriteInPlaneLoad(const Data::CInPlaneLoad& load, int element);

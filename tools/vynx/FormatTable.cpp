@@ -33,8 +33,8 @@ const Format* FormatOf(const std::filesystem::path& file, WillDo&& willDo) {
 }  // namespace
 
 const std::vector<Format>& Formats() {
-    static const std::vector<Format> kFormats{DampingFormat(), SqlFormat(), NastranFormat(),
-                                              DocumentFormat(), KeywordFormat()};
+    static const std::vector<Format> kFormats{DampingFormat(), SqlFormat(),      NastranFormat(),
+                                              LsDynaFormat(),  DocumentFormat(), KeywordFormat()};
     return kFormats;
 }
 
