@@ -74,7 +74,7 @@ def portal_sample():
     if not 50e3 < pull < 0.0008 * 355e6:
         raise AssertionError(f"the tie rod carries {pull} N")
     kinds = {load["type"] for load in sample["model"]["loads"]["beam"]}
-    if kinds != {"POINT", "UNIFORM", "LINEAR", "PATCH", "TRILINEAR"}:
+    if kinds != {"POINT", "UNIFORM", "LINEAR", "PATCH"}:
         raise AssertionError(f"beam loads are {kinds}")
     current("portal", sample)
 
@@ -255,6 +255,7 @@ def coverage():
 
 # heads that say nothing of a model, and kinds that no sample needs
 NOT_IN_SAMPLES = {
+    "beam_loads trilinear",  # some formats stop at it
     "program",
     "units",
     "history",

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string_view>
 
-#include "io/TextOut.h"
+#include "io/Rows.h"
 #include "model/Util.h"
 #include "model/VynData.h"
 
@@ -16,22 +16,6 @@ constexpr int kNodesInLine = 10;
 constexpr int kValuesInLine = 5;
 constexpr int kNumberWidth = 8;
 constexpr int kValueWidth = 16;
-
-/// Writes items, `inLine` to a line, ending a last line that is not full.
-template <class Items, class WriteItem>
-void WriteRows(TextOut& out, const Items& items, int inLine, WriteItem writeItem) {
-    int column = 0;
-    for (const auto& item : items) {
-        writeItem(item);
-        if (++column == inLine) {
-            out.EndLine();
-            column = 0;
-        }
-    }
-    if (column != 0) {
-        out.EndLine();
-    }
-}
 
 /// A node without results does not move.
 double OrZero(double value) {

@@ -36,6 +36,15 @@ DynaNodes TakeNodes(CDynaCard& card) {
     return nodes;
 }
 
+/// One end, or two; without the second one an element holds its node to the ground.
+void TakeEnds(CDynaCard& card, std::vector<int>& ends) {
+    ends.assign(1, card.Number());
+    const int second = card.Reference();
+    if (second != 0) {
+        ends.push_back(second);
+    }
+}
+
 }  // namespace
 
 void CDynaImport::SetConnect(Data::CElemConnect& connect, int translational, int rotational) {
@@ -74,16 +83,17 @@ bool CDynaImport::Node(CLineReader& lines, std::string_view& line) {
     return m_error.empty();
 }
 
+/// A line without a second node is that of a discrete beam, which holds its node to the ground as a
+/// spring does.
 bool CDynaImport::Beam(CLineReader& lines, std::string_view& line) {
-    std::vector<int> ends(2);
+    std::vector<int> ends;
     while (NextEntry(lines, line)) {
         CDynaCard card(line);
         const int number = card.Number();
         const int part = card.Reference();
-        ends[0] = card.Number();
-        ends[1] = card.Number();
+        TakeEnds(card, ends);
         const int orientation = card.Reference();
-        Data::CElement beam(ElementType::Beam, ends, part);
+        Data::CElement beam(ends.size() == 2 ? ElementType::Beam : ElementType::Spring, ends, part);
         beam.SetOrientationNode(orientation);
         for (const int end : {1, 2}) {
             beam.SetConnect(end, TakeConnect(card));
@@ -160,11 +170,7 @@ bool CDynaImport::Spring(CLineReader& lines, std::string_view& line) {
         CDynaCard card(line);
         const int number = card.Number();
         const int part = card.Reference();
-        ends = {card.Number()};
-        const int second = card.Reference();  // none: the spring holds its node to the ground
-        if (second != 0) {
-            ends.push_back(second);
-        }
+        TakeEnds(card, ends);
         if (!IsGood(card)) {
             return false;
         }

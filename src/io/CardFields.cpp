@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 #include "io/DecimalDigits.h"
 #include "io/NumberFormat.h"
@@ -25,21 +26,6 @@ char* Fill(char* out, char c, int count) {
 char* Copy(char* out, const char* from, const char* to) {
     std::memcpy(out, from, static_cast<std::size_t>(to - from));
     return out + (to - from);
-}
-
-constexpr int kBlankCount = 16;
-constexpr const char* kBlanks = "                ";
-
-/// Writes the digits of a number so that they end before `last`; false when they do not fit.
-bool DigitsUpTo(const char* first, char* last, std::uint64_t number) {
-    do {
-        if (last == first) {
-            return false;
-        }
-        *--last = static_cast<char>('0' + number % 10);
-        number /= 10;
-    } while (number != 0);
-    return true;
 }
 
 /// Removes the character `fromEnd` places before the end (1 = the last one) if it is `c`.
@@ -67,12 +53,15 @@ constexpr int kDigits = 7;
 char* ShortText(char* out, double value) {
     std::uint64_t digits = 0;
     int exponent = 0;
-    const double magnitude = std::abs(value);
-    if (magnitude != 0.0 && (!SignificantDigits(magnitude, kDigits, digits, exponent) ||
-                             exponent < -99 || exponent > 99)) {
+    if (value == 0.0) {
+        constexpr std::string_view kZero = "-0.000000e+0";
+        return Copy(out, kZero.data() + (std::signbit(value) ? 0 : 1), kZero.data() + kZero.size());
+    }
+    if (!SignificantDigits(std::abs(value), kDigits, digits, exponent) || exponent < -99 ||
+        exponent > 99) {
         return nullptr;
     }
-    if (std::signbit(value)) {
+    if (value < 0.0) {
         *out++ = '-';
     }
     for (int k = kDigits; k > 1; --k) {
@@ -92,17 +81,29 @@ char* ShortText(char* out, double value) {
     return out;
 }
 
+/// A number right-justified from its last digit; null, and nothing is kept, when it does not fit.
+char* ShortInt(char* out, std::uint64_t value, int width) {
+    char* at = out + width;
+    do {
+        if (at == out) {
+            return nullptr;
+        }
+        *--at = static_cast<char>('0' + value % 10);
+        value /= 10;
+    } while (value != 0);
+    std::memset(out, ' ', static_cast<std::size_t>(at - out));
+    return out + width;
+}
+
 }  // namespace
 
 char* AppendIntField(char* out, long long value, int width) {
-    if (value >= 0 && width > 0 && width <= kBlankCount) {
-        // The digits from the last to the first, into a field that is already blank.
-        std::memcpy(out, kBlanks, static_cast<std::size_t>(width));
-        if (DigitsUpTo(out, out + width, static_cast<std::uint64_t>(value))) {
-            return out + width;
+    width = std::clamp(width, -kMaxFieldWidth, kMaxFieldWidth);
+    if (value >= 0 && width > 0) {
+        if (char* const end = ShortInt(out, static_cast<std::uint64_t>(value), width)) {
+            return end;
         }
     }
-    width = std::clamp(width, -kMaxFieldWidth, kMaxFieldWidth);
     char* const end = AppendInt(out, value, width);
     const int length = static_cast<int>(end - out);
     if (width >= 1 && length > width) {

@@ -44,7 +44,7 @@ int CornerCount(ElementType type) {
     }
 }
 
-SolidFace LoadedFace(ElementType type, int face) {
+SolidFace CornersOfFace(ElementType type, int face) {
     const int corners = CornerCount(type);
     if (corners > 0) {
         return {1, 2, 3, corners == 4 ? 4 : 0};

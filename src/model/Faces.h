@@ -27,7 +27,7 @@ int CornerCount(ElementType type);
 
 /// Places in the topology (from 1) of the corners of a loaded face: of a 2D element, whatever the
 /// number, or of a face of a solid; the fourth 0 for triangles, all 0 where there is no such face.
-SolidFace LoadedFace(ElementType type, int face);
+SolidFace CornersOfFace(ElementType type, int face);
 
 /// Twice the area of a face of an element whose nodes exist, along its normal, m2.
 Vec3<double> DoubleArea(const CVynData& model, const Data::CElement& element,

@@ -15,7 +15,7 @@ namespace {
 int CornerNode(const CElement& element, int face, int corner) {
     return corner >= 1 && corner <= 4
                ? element.Topo(
-                     LoadedFace(element.Type(), face)[static_cast<std::size_t>(corner - 1)])
+                     CornersOfFace(element.Type(), face)[static_cast<std::size_t>(corner - 1)])
                : 0;
 }
 
@@ -105,7 +105,7 @@ double CFaceLoad::GetFaceLoadValue(const CVynData& model, int element, int corne
 }
 
 bool CFaceLoad::ValidatePointLoadPosition(const CVynData& model, int element) const {
-    const SolidFace corners = LoadedFace(model.Elem(element).Type(), m_face);
+    const SolidFace corners = CornersOfFace(model.Elem(element).Type(), m_face);
     const double r = m_position.x;
     const double s = m_position.y;
     if (corners[3] != 0) {

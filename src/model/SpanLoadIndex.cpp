@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numeric>
 
+#include "model/LoadForces.h"
 #include "model/SpanFrame.h"
 #include "model/Util.h"
 #include "model/VynData.h"
@@ -110,41 +111,6 @@ void SpanLoadIndex::FindGravity() {
     }
 }
 
-namespace {
-
-/// What a load of 1 in the direction of a beam load is in element axes. A projected load is spread
-/// over the length that it meets squarely; a load at a point has no length to project.
-Vec3<double> UnitLoad(const CVynData& model, const SpanFrame& frame, const Data::CBeamLoad& load) {
-    const int k = ToTrans(load.GetDirection()) - Direction::X;
-    Vec3<double> unit;
-    unit[k] = 1.0;
-    if (load.Axis() != kLocalAxis) {
-        unit = frame.axes.GtoL(model.AxisDC(load.Axis(), frame.middle).AxisVec(k));
-    }
-    const bool isProjected = load.IsProjected() && load.TypeOf() != BeamLoadType::Point;
-    return isProjected ? unit * std::hypot(unit.y, unit.z) : unit;
-}
-
-double Metres(const Data::LoadPoint& point, double length) {
-    return point.isFraction ? point.position * length : point.position;
-}
-
-void AddBeamLoad(const Data::CBeamLoad& load, const Vec3<double>& unit, double length,
-                 SpanLoads& loads) {
-    if (load.TypeOf() == BeamLoadType::Point) {
-        loads.AddPoint(Metres(load.Point(1), length), unit * load.Value(1), length);
-        return;
-    }
-    const int last = load.TypeOf() == BeamLoadType::Trilinear ? 4 : 2;
-    for (int k = 1; k < last; ++k) {
-        loads.AddPiece({Metres(load.Point(k), length), Metres(load.Point(k + 1), length),
-                        unit * load.Value(k), unit * load.Value(k + 1)},
-                       length);
-    }
-}
-
-}  // namespace
-
 void SpanLoadIndex::AddLoads(const SpanFrame& frame, int analysisCase, SpanLoads& forces,
                              SpanLoads& moments) const {
     const CaseFactors& factors = m_cases.Get(analysisCase);
@@ -152,11 +118,12 @@ void SpanLoadIndex::AddLoads(const SpanFrame& frame, int analysisCase, SpanLoads
         return;
     }
     const Range range = m_ranges.Get(frame.element);
+    const LoadedLine line{frame.length, frame.axes, frame.middle};
     for (const int number : std::span(m_beamLoads).subspan(range.first, range.count)) {
         const Data::CBeamLoad& load = m_model->BeamLoad(number);
         const double factor = factors.Of(load.LoadCase());
         if (factor != 0.0) {
-            AddBeamLoad(load, UnitLoad(*m_model, frame, load) * factor, frame.length,
+            AddBeamLoad(*m_model, line, load, factor,
                         IsTrans(load.GetDirection()) ? forces : moments);
         }
     }

@@ -153,7 +153,7 @@ Vec3<double> DoubleArea(const CVynData& model, const Data::CElement& element) {
     if (corners == 0 || !HasNodes(model, element, corners)) {
         return {};
     }
-    return DoubleArea(model, element, LoadedFace(element.Type(), 1));
+    return DoubleArea(model, element, CornersOfFace(element.Type(), 1));
 }
 
 }  // namespace

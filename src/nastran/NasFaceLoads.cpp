@@ -1,7 +1,7 @@
 #include <array>
 #include <cmath>
 
-#include "model/Faces.h"
+#include "model/LoadForces.h"
 #include "model/VynData.h"
 #include "nastran/NasFile.h"
 
@@ -10,16 +10,6 @@
 namespace Tevra {
 
 namespace {
-
-bool IsNormal(const Data::CFaceLoad& load) {
-    return load.Axis() == kLocalAxis && load.GetDirection() == Direction::Z;
-}
-
-/// Axes of a load on an element.
-Util::CDirCos LoadAxes(const CVynData& model, const Data::CFaceLoad& load, int element,
-                       const Vec3<double>& at) {
-    return load.Axis() == kLocalAxis ? model.ElemDC(element) : model.AxisDC(load.Axis(), at);
-}
 
 /// The nodes that name the loaded face of a solid: opposite corners of four; of a triangle of a
 /// wedge a corner alone, of a tetrahedron a corner and the node off the face, of a pyramid the two
@@ -78,16 +68,15 @@ bool CNasFile::WriteSolidFaceLoads() {
 
 /// Why a face load can't be written on an element; empty when it can.
 std::wstring CNasFile::FaceLoadFault(const Data::CFaceLoad& load, int element) const {
-    const Data::CElement& record = m_model->Elem(element);
-    const SolidFace face = LoadedFace(record.Type(), load.Face());
+    const LoadedFace face = LoadedFace::Of(*m_model, element, load.Face());
     const std::wstring name = L"element " + std::to_wstring(element);
-    if (face[0] == 0) {
+    if (!face.Exists()) {
         return name + L" has no face " + std::to_wstring(load.Face());
     }
     if (!IsTrans(load.GetDirection())) {
         return L"a pressure can't turn";
     }
-    if (!(Length(DoubleArea(*m_model, record, face)) > 0.0)) {
+    if (!face.HasArea()) {
         return name + L" has no area";
     }
     if (load.TypeOf() == FaceLoadType::Point &&
@@ -97,36 +86,19 @@ std::wstring CNasFile::FaceLoadFault(const Data::CFaceLoad& load, int element) c
     return {};
 }
 
-/// What the values of a load are multiplied by to give the pressure on a face: projected pressures
-/// act on the area square to them, a force at a point is spread over the face.
-double CNasFile::PressureFactor(const Data::CFaceLoad& load, int element,
-                                const std::array<int, 4>& face) const {
-    const Data::CElement& record = m_model->Elem(element);
-    const Vec3<double> area = DoubleArea(*m_model, record, face) * 0.5;
-    if (load.TypeOf() == FaceLoadType::Point) {
-        return 1.0 / Length(area);
-    }
-    if (!load.IsProjected()) {
-        return 1.0;
-    }
-    const Vec3<double> at = CentreOfFace(*m_model, record, face);
-    const Vec3<double> along = LoadAxes(*m_model, load, element, at).AxisVec(load.GetDirection());
-    return std::abs(Dot(along, area)) / Length(area);
-}
-
 void CNasFile::WriteFaceLoad(const Data::CFaceLoad& load, int element) {
     if (const std::wstring fault = FaceLoadFault(load, element); !fault.empty()) {
         Skip(fault);
         return;
     }
     const Data::CElement& record = m_model->Elem(element);
-    const SolidFace face = LoadedFace(record.Type(), load.Face());
+    const LoadedFace face = LoadedFace::Of(*m_model, element, load.Face());
     StartCard("PLOAD4");
     AddInt(load.LoadCase());
     AddInt(element);
-    AddFacePressures(load, element, face, PressureFactor(load, element, face));
+    AddFacePressures(load, element, face);
     if (record.Is3D()) {
-        const FaceNodes nodes = NodesOfFace(record, face);
+        const FaceNodes nodes = NodesOfFace(record, face.corners);
         AddInt(nodes.g1);
         if (nodes.g3 != 0) {
             AddInt(nodes.g3);
@@ -140,16 +112,12 @@ void CNasFile::WriteFaceLoad(const Data::CFaceLoad& load, int element) {
     EndCard();
 }
 
-void CNasFile::AddFacePressures(const Data::CFaceLoad& load, int element,
-                                const std::array<int, 4>& face, double factor) {
-    const bool isTriangle = face[3] == 0;
-    for (int k = 1; k <= (isTriangle ? 3 : 4); ++k) {
-        const double value = load.TypeOf() == FaceLoadType::Point
-                                 ? load.Value(1)
-                                 : load.GetFaceLoadValue(*m_model, element, k);
-        AddReal(value * factor);
+void CNasFile::AddFacePressures(const Data::CFaceLoad& load, int element, const LoadedFace& face) {
+    const double factor = PressureFactor(*m_model, load, element, face);
+    for (int k = 1; k <= face.NumCorner(); ++k) {
+        AddReal(CornerPressure(*m_model, load, element, k) * factor);
     }
-    AddBlankFields(isTriangle ? 1 : 0);
+    AddBlankFields(4 - face.NumCorner());
 }
 
 /// A load that is not square to the face names its direction: in a user axis where it has one,

@@ -19,6 +19,7 @@
 namespace Tevra {
 
 class TextOut;
+struct LoadedFace;
 
 /// Writes the model as one NASTRAN input file: executive control, case control with a subcase for
 /// each load case and each combination, and bulk data in fixed fields.
@@ -203,10 +204,7 @@ private:
     bool WriteSolidFaceLoads();
     void WriteFaceLoad(const Data::CFaceLoad& load, int element);
     std::wstring FaceLoadFault(const Data::CFaceLoad& load, int element) const;
-    double PressureFactor(const Data::CFaceLoad& load, int element,
-                          const std::array<int, 4>& face) const;
-    void AddFacePressures(const Data::CFaceLoad& load, int element, const std::array<int, 4>& face,
-                          double factor);
+    void AddFacePressures(const Data::CFaceLoad& load, int element, const LoadedFace& face);
     void AddFaceDirection(const Data::CFaceLoad& load, int element);
     bool WriteInPlaneLoads();
     void WriteInPlaneLoad(const Data::CInPlaneLoad& load, int element);

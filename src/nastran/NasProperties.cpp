@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "model/SecGeom.h"
+#include "model/ShapeDim.h"
 #include "model/VynData.h"
 #include "nastran/NasFile.h"
 
@@ -16,6 +16,7 @@ namespace Tevra {
 using Data::CSecGeom;
 using Data::CSection;
 using Data::SectionClass;
+using Data::ShapeDim;
 
 namespace {
 
@@ -27,14 +28,6 @@ constexpr double kLeastIyz = 1e-10;
 constexpr double kPrincipalShare = 1e-6;
 /// Gap of a tie, m: open from the beginning, so that linear solutions take its open stiffness.
 constexpr double kTieGap = 1e-9;
-
-/// One dimension of a library shape: an index into the host's dimensions and a factor, less
-/// another dimension (-1 none).
-struct ShapeDim {
-    int index = -1;
-    double factor = 1.0;
-    int less = -1;
-};
 
 struct LibraryShape {
     std::string_view type;
@@ -220,9 +213,8 @@ bool CNasFile::WriteLibraryShape(int section, const ExportedProperty& property,
     AddTextField(shape->type);
     AddBlankFields(4);
     for (const ShapeDim& dim : shape->dims) {
-        if (dim.index >= 0) {
-            const double less = dim.less >= 0 ? geometry.Dimension(dim.less) : 0.0;
-            AddReal(geometry.Dimension(dim.index) * dim.factor - less);
+        if (dim.Exists()) {
+            AddReal(dim.Of(geometry));
         }
     }
     AddReal(0.0);

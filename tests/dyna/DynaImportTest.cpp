@@ -91,6 +91,10 @@ TEST(DynaImport, EachKeywordMakesItsEntities) {
          "*ELEMENT_BEAM\n"
          "      11       2       5       6\n",
          "E11 BEAM 2: 5 6\n"},
+        {"discrete beam that holds its node to the ground",
+         "*ELEMENT_BEAM\n"
+         "      11       2       5       0       0\n",
+         "E11 SPRING 2: 5\n"},
         {"spring, and one that holds its node to the ground",
          "*ELEMENT_DISCRETE\n"
          "       1       4       5       6       3             1.0       0             0.0\n"

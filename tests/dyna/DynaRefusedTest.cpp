@@ -79,7 +79,7 @@ TEST(DynaRefused, NumbersBelowOneAndEntriesThatLackNodes) {
         {"*NODE\n             1.0\n", 2, "columns 1-8: blank is not the number of an entity"},
         {"*ELEMENT_BEAM\n       0       1       1       2\n", 2, "columns 1-8"},
         {"*ELEMENT_BEAM\n       1      -1       1       2\n", 2, "columns 9-16"},
-        {"*ELEMENT_BEAM\n       1       1       1\n", 2, "columns 25-32: blank"},
+        {"*ELEMENT_BEAM\n       1       1\n", 2, "columns 17-24: blank"},
         {"*ELEMENT_BEAM\n       1       1       1       2      -3\n", 2, "columns 33-40"},
         {"*ELEMENT_DISCRETE\n       1       1               2\n", 2, "columns 17-24: blank"},
         {"*ELEMENT_MASS\n       1       0             1.0\n", 2, "columns 9-16"},

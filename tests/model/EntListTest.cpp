@@ -85,9 +85,10 @@ INSTANTIATE_TEST_SUITE_P(
         ListCase{SelType::Element, L"list 1 7", L"1 2 3 7"},
         ListCase{SelType::Element, L"list 2", L"7 8"}, ListCase{SelType::Member, L"all", L"7"},
         ListCase{SelType::LoadCase, L"all", L"4"}, ListCase{SelType::LoadCase, L"L1 to L9", L"4"},
-        ListCase{SelType::LoadCase, L"4", L"4"}, ListCase{SelType::Case, L"A1 to A3", L"1 2 3"},
-        ListCase{SelType::Case, L"A1 A5 C2", L"1 5"}, ListCase{SelType::Case, L"all", L"1 2 3 5"},
-        ListCase{SelType::Case, L"A all not A2", L"1 3 5"},
+        ListCase{SelType::LoadCase, L"4", L"4"}, ListCase{SelType::Case, L"A1 to A3", L"A1 A2 A3"},
+        ListCase{SelType::Case, L"A1 A5 C2", L"A1 A5 C2"},
+        ListCase{SelType::Case, L"all", L"A1 A2 A3 A5 C2"},
+        ListCase{SelType::Case, L"A all not A2", L"A1 A3 A5"},
         ListCase{SelType::Number, L"1 to 3 7", L"1 2 3 7"}));
 
 TEST(EntList, TextsThatCanNotBeReadSelectNothing) {

@@ -170,9 +170,9 @@ TEST(ProfileCatalogue, FilesThatCanNotBeRead) {
     error.clear();
     EXPECT_FALSE(catalogue.Load(Text::FromPath(folder.Path()), error)) << "a folder";
     EXPECT_NE(error, L"");
-    std::istringstream large(std::string((std::size_t{16} << 20) + 1, '\n'));
+    std::istringstream large(std::string(200'001, '\n'));
     EXPECT_FALSE(catalogue.Load(large, error));
-    EXPECT_NE(error.find(L"larger"), std::wstring::npos);
+    EXPECT_NE(error.find(L"too large"), std::wstring::npos);
 
     std::ofstream(folder.Path() / "own.txt") << "MY MY1 R 10 20\n";
     EXPECT_TRUE(catalogue.Load(Text::FromPath(folder.Path() / "own.txt"), error));

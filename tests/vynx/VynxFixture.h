@@ -44,6 +44,9 @@ protected:
         std::ofstream(Path(name), std::ios::binary) << text;
         return Path(name);
     }
+    std::string Content(const std::string& name) const {
+        return Tevra::TestSupport::ReadFile(Path(name));
+    }
     static std::string Footbridge() {
         return (Tevra::TestSupport::SourceDir() / "examples/footbridge.json").string();
     }

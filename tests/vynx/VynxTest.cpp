@@ -14,6 +14,7 @@
 #include "vynx/Failure.h"
 #include "vynx/Format.h"
 #include "vynx/VynxFixture.h"
+#include "vynx/samples/Samples.h"
 
 namespace Vynx {
 namespace {
@@ -183,8 +184,11 @@ TEST_F(VynxTest, TheLongestExtensionSaysTheFormat) {
 TEST_F(VynxTest, AllWritesWhatTheModelCanFeed) {
     ASSERT_EQ(Run({"export", Footbridge(), "--to", "all", "-o", Path("all")}), kDone) << m_err;
     for (const Format& format : Formats()) {
-        if (format.write != nullptr) {
-            const std::string stem = "all/footbridge";
+        const std::string stem = "all/footbridge";
+        if (format.id == "ls-dyna") {
+            EXPECT_NE(m_out.find("ls-dyna: skipped, the model has no explicit dynamics task"),
+                      std::string::npos);
+        } else if (format.write != nullptr) {
             EXPECT_TRUE(format.writesFolder
                             ? !fs::is_empty(Path(stem))
                             : fs::file_size(Path(stem + std::string(format.extensions[0]))) > 0)
@@ -195,6 +199,30 @@ TEST_F(VynxTest, AllWritesWhatTheModelCanFeed) {
     ASSERT_EQ(Run({"export", portal, "--to", "all", "-o", Path("all")}), kDone) << m_err;
     EXPECT_NE(m_out.find("damping: skipped, the model has no analysed modal task"),
               std::string::npos);
+}
+
+TEST_F(VynxTest, KeywordFileIsThatOfATask) {
+    const std::string model = (Tevra::TestSupport::SourceDir() / "examples/isolated.json").string();
+    const auto exportTask = [&](const std::string& task) {
+        return Run({"export", model, "--to", "ls-dyna", "--task", task, "-o", Path("a.key"),
+                    "--report", Path("a.html")});
+    };
+    EXPECT_EQ(exportTask("2"), kFailed);
+    EXPECT_NE(m_err.find("analysis task 2 is not of explicit dynamics"), std::string::npos);
+    EXPECT_EQ(exportTask("9"), kFailed);
+    EXPECT_NE(m_err.find("analysis task 9 does not exist"), std::string::npos);
+    EXPECT_FALSE(fs::exists(Path("a.key")) || fs::exists(Path("a.html")));
+    ASSERT_EQ(exportTask("3"), kDone) << m_err;
+    EXPECT_EQ(Content("a.html").find("<h4>VYN-DYNA Part Lookup</h4>"), 0U);
+    const std::string asked = Content("a.key");
+    ASSERT_EQ(exportTask("0"), kDone) << m_err;
+    EXPECT_EQ(Content("a.key").size(), asked.size());
+    ASSERT_EQ(Run({"import", Path("a.key"), "-o", Path("a.json")}), kDone) << m_err;
+    for (const SampleKind& kind : SampleKinds()) {
+        const std::string name(kind.name);
+        EXPECT_EQ(Run({"sample", name, "--size", "100", "-o", Path("b.key")}), kDone) << m_err;
+        EXPECT_EQ(Run({"import", Path("b.key"), "-o", Path("b.json")}), kDone) << m_err;
+    }
 }
 
 TEST_F(VynxTest, NumbersWithoutARecordAreNamed) {

@@ -33,8 +33,9 @@ const Format* FormatOf(const std::filesystem::path& file, WillDo&& willDo) {
 }  // namespace
 
 const std::vector<Format>& Formats() {
-    static const std::vector<Format> kFormats{DampingFormat(), SqlFormat(),      NastranFormat(),
-                                              QuorlFormat(),   DocumentFormat(), KeywordFormat()};
+    static const std::vector<Format> kFormats{DampingFormat(), SqlFormat(),   NastranFormat(),
+                                              LsDynaFormat(),  QuorlFormat(), DocumentFormat(),
+                                              KeywordFormat()};
     return kFormats;
 }
 

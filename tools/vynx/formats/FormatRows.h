@@ -10,9 +10,14 @@ namespace Vynx {
 Format DampingFormat();
 Format DocumentFormat();
 Format KeywordFormat();
+Format LsDynaFormat();
 Format SqlFormat();
 Format NastranFormat();
 Format QuorlFormat();
+
+/// Writes the report of an export to its own file, whole or not at all; without a path nothing is
+/// written.
+bool WriteReport(const std::string& path, const std::wstring& report);
 
 /// Runs a single-file writer of the library on a job.
 inline bool RunWriter(Tevra::CStreamFile& writer, ExportJob& job) {

@@ -1,8 +1,5 @@
-#include <fstream>
-
 #include "nastran/NasFile.h"
 #include "platform/text/Utf8.h"
-#include "vynx/OutputFile.h"
 #include "vynx/formats/FormatRows.h"
 
 namespace Vynx {
@@ -30,19 +27,6 @@ std::string Lacks(const Tevra::CVynData& /*model*/, const OptionValues& options)
                : "";
 }
 
-/// The report beside the file, whole or not at all.
-bool WriteReport(const std::string& path, const std::wstring& report) {
-    OutputFile file(path, "report.html");
-    std::ofstream stream(file.WorkPath(), std::ios::binary | std::ios::trunc);
-    stream << Tevra::Text::ToUtf8(report);
-    stream.close();
-    if (!stream.good()) {
-        return false;
-    }
-    file.Commit();
-    return true;
-}
-
 bool Write(ExportJob& job) {
     const OptionValues& options = job.options;
     Tevra::CNasFile writer;
@@ -53,11 +37,7 @@ bool Write(ExportJob& job) {
     writer.SetExportLoads(!options.Flag("no-loads"));
     writer.SetSelection(options.Integer("selection"));
     writer.SetBucklingDescription(Tevra::Text::FromUtf8(options.Text("buckling")));
-    if (!RunWriter(writer, job)) {
-        return false;
-    }
-    const std::string path = options.Text("report");
-    return path.empty() || WriteReport(path, writer.Report());
+    return RunWriter(writer, job) && WriteReport(options.Text("report"), writer.Report());
 }
 
 }  // namespace

@@ -5,6 +5,22 @@ namespace Vynx {
 using Tevra::CVynData;
 using Tevra::SelType;
 
+namespace {
+
+/// The first load case acting for a second on the held model.
+Tevra::CAnalysisTask SuddenLoad() {
+    Tevra::CDynaTask dyna;
+    dyna.SetLoadCurveDescription(L"1");
+    dyna.SetExcitation(Tevra::ExcitationOption::OneCurve);  // writes supports; nothing is shaken
+    dyna.SetNodeSelection(Tevra::CEntList(L"1", SelType::Node));
+    Tevra::CAnalysisTask task;
+    task.SetName(L"Sudden load");
+    task.SetDyna(dyna);
+    return task;
+}
+
+}  // namespace
+
 void BeginSample(CVynData& model, const std::wstring& title,
                  std::initializer_list<std::wstring> loadCases) {
     Tevra::CTitles titles;
@@ -17,6 +33,7 @@ void BeginSample(CVynData& model, const std::wstring& title,
     task.SetSolution(Tevra::SolutionType::Static);
     task.SetAnalysed(true);
     model.SetAnalysisTask(1, task);
+    model.SetAnalysisTask(2, SuddenLoad());
 
     int number = 0;
     for (const std::wstring& name : loadCases) {

@@ -40,8 +40,8 @@ private:
     Tevra::Vec3<double> m_spacing;
 };
 
-/// Titles, steel as analysis material 1, load cases and the static analysis case A1 of the first
-/// load case, of a model that has nothing yet.
+/// Titles, steel as analysis material 1, load cases, the static analysis case A1 of the first load
+/// case and a task of explicit dynamics, of a model that has nothing yet.
 void BeginSample(Tevra::CVynData& model, const std::wstring& title,
                  std::initializer_list<std::wstring> loadCases);
 
