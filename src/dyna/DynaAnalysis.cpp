@@ -166,12 +166,8 @@ void CDynaAnalysis::NoteFaults() {
     note(m_out->NoNumbers(), L"values that are not numbers");
 }
 
-void CDynaAnalysis::NoteRecord(const wchar_t* kind, int number, const std::wstring& text) {
-    AddNote(std::wstring(kind) + L" " + std::to_wstring(number) + L" " + text);
-}
-
 void CDynaAnalysis::Skip(const wchar_t* kind, int number, const std::wstring& reason) {
-    NoteRecord(kind, number, L"is not written: " + reason);
+    AddNote(kind, number, L"is not written: " + reason);
 }
 
 int CDynaAnalysis::AxisNumber(int axis) const {

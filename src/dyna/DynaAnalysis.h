@@ -94,9 +94,8 @@ private:
     bool WriteSections();
     bool WriteEnd();
     void NoteFaults();
-    /// Notes why a record is not written, or what of it is not.
+    /// Notes why a record is not written.
     void Skip(const wchar_t* kind, int number, const std::wstring& reason);
-    void NoteRecord(const wchar_t* kind, int number, const std::wstring& text);
 
     // --- numbers
     int NextMaterial();

@@ -103,8 +103,8 @@ void CDynaAnalysis::WriteRigid(int number) {
     WriteSet(kNodeList, set, nodes);
     AddBody(part, nodes);
     if (LinkedFreedoms(rigid.TypeOf()).Bits() != kAllFreedoms) {
-        NoteRecord(L"Rigid constraint", number,
-                   L"is written as a rigid body, which ties all freedoms");
+        AddNote(L"Rigid constraint", number,
+                L"is written as a rigid body, which ties all freedoms");
     }
 }
 

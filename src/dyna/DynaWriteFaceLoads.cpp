@@ -75,10 +75,10 @@ void CDynaAnalysis::WriteFaceLoad(int number, const std::vector<int>& elements, 
         }
     }
     if (!isAlong) {
-        NoteRecord(L"Face load", number, L"keeps the component along the normals of its faces");
+        AddNote(L"Face load", number, L"keeps the component along the normals of its faces");
     }
     if (load.TypeOf() != FaceLoadType::Uniform) {
-        NoteRecord(L"Face load", number, L"is written as a uniform pressure of the same sum");
+        AddNote(L"Face load", number, L"is written as a uniform pressure of the same sum");
     }
 }
 

@@ -154,7 +154,7 @@ void CDynaAnalysis::WriteLink(int element) {
     AddBody(part, {record.Topo(1), record.Topo(2)});
     const Data::CLinkProp* const property = m_model->LinkPropTable().Find(record.Property());
     if (property != nullptr && LinkedFreedoms(property->TypeOf()).Bits() != 63) {
-        NoteRecord(L"Element", element, L"is written as a rigid link, which ties all freedoms");
+        AddNote(L"Element", element, L"is written as a rigid link, which ties all freedoms");
     }
 }
 

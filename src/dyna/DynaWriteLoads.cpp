@@ -100,7 +100,7 @@ void CDynaAnalysis::WriteBeamLoad(int number, bool& isFirst) {
              L"on " + std::to_wstring(left) + L" elements that are no beams or have no length");
     }
     if (load.TypeOf() != BeamLoadType::Uniform) {
-        NoteRecord(L"Beam load", number, L"is written as a uniform load of the same sum");
+        AddNote(L"Beam load", number, L"is written as a uniform load of the same sum");
     }
 }
 
@@ -135,7 +135,7 @@ bool CDynaAnalysis::WriteGravity() {
             }
         }
         if (directions > 1) {
-            NoteRecord(L"Gravity load", number, L"is written in the first of its directions alone");
+            AddNote(L"Gravity load", number, L"is written in the first of its directions alone");
         }
     }
     return m_out->Good();

@@ -28,7 +28,7 @@ bool CDynaAnalysis::WriteCoordinateSystems() {
         WriteCoordinateSystem(number, axis.Origin(), axis.XAxis(), axis.YAxis());
         ++m_coordinateCount;
         if (axis.TypeOf() != AxisType::Cartesian) {
-            NoteRecord(L"Axis", number, L"is written as cartesian: the card has no other systems");
+            AddNote(L"Axis", number, L"is written as cartesian: the card has no other systems");
         }
     }
     const int highest = m_model->HighestAxis();

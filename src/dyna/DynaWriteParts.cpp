@@ -56,10 +56,10 @@ int CDynaAnalysis::DesignMaterial(const DesignGrade& grade) {
     const int material = NextMaterial();
     const auto [entry, isNew] = m_designMaterials.emplace(grade, material);
     if (!isNew) {
-        NoteRecord(L"Material", material,
-                   L"of part " + std::to_wstring(m_parts.size() + 1) +
-                       L" is not in the file: its design grade is there as material " +
-                       std::to_wstring(entry->second));
+        AddNote(L"Material", material,
+                L"of part " + std::to_wstring(m_parts.size() + 1) +
+                    L" is not in the file: its design grade is there as material " +
+                    std::to_wstring(entry->second));
     }
     return material;
 }

@@ -103,8 +103,8 @@ void CDynaAnalysis::WriteCurvedSpring(const Data::CSpringProp& spring, const Par
                (spring.Stiff(d) != 0.0 || spring.TableRef(d) != 0);
     });
     if (isCut) {
-        NoteRecord(L"Spring property", part.property,
-                   L"is written by the curves that exist; its other directions have no stiffness");
+        AddNote(L"Spring property", part.property,
+                L"is written by the curves that exist; its other directions have no stiffness");
     }
 }
 
@@ -119,8 +119,8 @@ bool CDynaAnalysis::WriteDamperSections() {
         m_out->NameComment(damper.Name());
         m_out->Line<kDamperViscous>(part.material, damper.Coefficient(d));
         if (!damper.IsSimple() && damper.Coefficient(d) != 0.0) {
-            NoteRecord(L"Damper property", number,
-                       L"is written by its first coefficient: a discrete damper has one direction");
+            AddNote(L"Damper property", number,
+                    L"is written by its first coefficient: a discrete damper has one direction");
         }
     }
     return true;
