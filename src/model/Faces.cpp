@@ -42,4 +42,15 @@ int CornerCount(ElementType type) {
     }
 }
 
+SolidFace CornersOfFace(ElementType type, int face) {
+    const int corners = CornerCount(type);
+    if (corners > 0) {
+        return {1, 2, 3, corners == 4 ? 4 : 0};
+    }
+    const auto faces = FacesOf(type);
+    return face >= 1 && face <= static_cast<int>(faces.size())
+               ? faces[static_cast<std::size_t>(face - 1)]
+               : SolidFace{};
+}
+
 }  // namespace Tevra

@@ -10,23 +10,11 @@ namespace Tevra::Data {
 
 namespace {
 
-/// Places in the topology (from 1, 0 none) of the corners of a loaded face: a 2D element, or a face
-/// of a solid.
-SolidFace CornersOf(ElementType type, int face) {
-    const int corners = CornerCount(type);
-    if (corners > 0) {
-        return {1, 2, 3, corners == 4 ? 4 : 0};
-    }
-    const auto faces = FacesOf(type);
-    return face >= 1 && face <= static_cast<int>(faces.size())
-               ? faces[static_cast<std::size_t>(face - 1)]
-               : SolidFace{};
-}
-
 /// The node at a corner (from 1) of a loaded face, 0 when there is none.
 int CornerNode(const CElement& element, int face, int corner) {
     return corner >= 1 && corner <= 4
-               ? element.Topo(CornersOf(element.Type(), face)[static_cast<std::size_t>(corner - 1)])
+               ? element.Topo(
+                     CornersOfFace(element.Type(), face)[static_cast<std::size_t>(corner - 1)])
                : 0;
 }
 
@@ -116,7 +104,7 @@ double CFaceLoad::GetFaceLoadValue(const CVynData& model, int element, int corne
 }
 
 bool CFaceLoad::ValidatePointLoadPosition(const CVynData& model, int element) const {
-    const SolidFace corners = CornersOf(model.Elem(element).Type(), m_face);
+    const SolidFace corners = CornersOfFace(model.Elem(element).Type(), m_face);
     const double r = m_position.x;
     const double s = m_position.y;
     if (corners[3] != 0) {

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numeric>
 
+#include "model/LoadValues.h"
 #include "model/SpanFrame.h"
 #include "model/Util.h"
 #include "model/VynData.h"
@@ -112,19 +113,6 @@ void SpanLoadIndex::FindGravity() {
 
 namespace {
 
-/// What a load of 1 in the direction of a beam load is in element axes. A projected load is spread
-/// over the length that it meets squarely; a load at a point has no length to project.
-Vec3<double> UnitLoad(const CVynData& model, const SpanFrame& frame, const Data::CBeamLoad& load) {
-    const int k = ToTrans(load.GetDirection()) - Direction::X;
-    Vec3<double> unit;
-    unit[k] = 1.0;
-    if (load.Axis() != kLocalAxis) {
-        unit = frame.axes.GtoL(model.AxisDC(load.Axis(), frame.middle).AxisVec(k));
-    }
-    const bool isProjected = load.IsProjected() && load.TypeOf() != BeamLoadType::Point;
-    return isProjected ? unit * std::hypot(unit.y, unit.z) : unit;
-}
-
 double Metres(const Data::LoadPoint& point, double length) {
     return point.isFraction ? point.position * length : point.position;
 }
@@ -156,8 +144,8 @@ void SpanLoadIndex::AddLoads(const SpanFrame& frame, int analysisCase, SpanLoads
         const Data::CBeamLoad& load = m_model->BeamLoad(number);
         const double factor = factors.Of(load.LoadCase());
         if (factor != 0.0) {
-            AddBeamLoad(load, UnitLoad(*m_model, frame, load) * factor, frame.length,
-                        IsTrans(load.GetDirection()) ? forces : moments);
+            AddBeamLoad(load, UnitBeamLoad(*m_model, load, frame.axes, frame.middle) * factor,
+                        frame.length, IsTrans(load.GetDirection()) ? forces : moments);
         }
     }
     Vec3<double> pull;

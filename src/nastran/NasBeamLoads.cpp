@@ -2,6 +2,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "model/LoadValues.h"
 #include "model/VynData.h"
 #include "nastran/NasFile.h"
 
@@ -101,12 +102,10 @@ void CNasFile::WriteBeamLoadOn(const Data::CBeamLoad& load, int element) {
         WriteBeamLoadCard(load, element, d, 1.0);
         return;
     }
-    const Data::CElement& record = m_model->Elem(element);
-    const Vec3<double> middle =
-        (m_model->TopoPosition(record, 1) + m_model->TopoPosition(record, 2)) * 0.5;
     Vec3<double> local;
     local[static_cast<int>(ToTrans(d))] = 1.0;
-    const Vec3<double> global = m_model->AxisDC(load.Axis(), middle).LtoG(local);
+    const Vec3<double> global =
+        m_model->AxisDC(load.Axis(), MiddleOf(*m_model, m_model->Elem(element))).LtoG(local);
     for (int k = 0; k < 3; ++k) {
         if (std::abs(global[k]) > kLeastShare) {
             WriteBeamLoadCard(load, element, static_cast<Direction>(IsTrans(d) ? k : k + 3),

@@ -1,7 +1,7 @@
 #include <array>
 #include <cmath>
 
-#include "model/Faces.h"
+#include "model/LoadValues.h"
 #include "model/VynData.h"
 #include "nastran/NasFile.h"
 
@@ -11,45 +11,8 @@ namespace Tevra {
 
 namespace {
 
-/// The corners of the loaded face as places in the topology, the fourth 0 for triangles; all 0 when
-/// a solid has no such face.
-SolidFace LoadedFace(const Data::CElement& record, int face) {
-    if (record.Is2D()) {
-        return {1, 2, 3, CornerCount(record.Type()) == 4 ? 4 : 0};
-    }
-    const auto faces = FacesOf(record.Type());
-    return face >= 1 && face <= static_cast<int>(faces.size())
-               ? faces[static_cast<std::size_t>(face - 1)]
-               : SolidFace{};
-}
-
-/// Twice the area of a face, along its normal.
-Vec3<double> DoubleArea(const CVynData& model, const Data::CElement& record,
-                        const SolidFace& face) {
-    const Vec3<double> first = model.TopoPosition(record, face[0]);
-    const Vec3<double> second = model.TopoPosition(record, face[1]);
-    const Vec3<double> third = model.TopoPosition(record, face[2]);
-    return face[3] != 0 ? Cross(third - first, model.TopoPosition(record, face[3]) - second)
-                        : Cross(second - first, third - first);
-}
-
-Vec3<double> CentreOf(const CVynData& model, const Data::CElement& record, const SolidFace& face) {
-    Vec3<double> sum;
-    const int corners = face[3] != 0 ? 4 : 3;
-    for (int k = 0; k < corners; ++k) {
-        sum = sum + model.TopoPosition(record, face[static_cast<std::size_t>(k)]);
-    }
-    return sum * (1.0 / corners);
-}
-
 bool IsNormal(const Data::CFaceLoad& load) {
     return load.Axis() == kLocalAxis && load.GetDirection() == Direction::Z;
-}
-
-/// Axes of a load on an element.
-Util::CDirCos LoadAxes(const CVynData& model, const Data::CFaceLoad& load, int element,
-                       const Vec3<double>& at) {
-    return load.Axis() == kLocalAxis ? model.ElemDC(element) : model.AxisDC(load.Axis(), at);
 }
 
 /// The nodes that name the loaded face of a solid: opposite corners of four; of a triangle of a
@@ -114,9 +77,9 @@ bool CNasFile::WriteSolidFaceLoads() {
 /// Projected pressures act on the area square to them. A force at a point is spread over the face.
 void CNasFile::WriteFaceLoad(const Data::CFaceLoad& load, int element) {
     const Data::CElement& record = m_model->Elem(element);
-    const SolidFace face = LoadedFace(record, load.Face());
+    const LoadedFace face = FaceUnder(*m_model, load, element);
     const std::wstring name = L"element " + std::to_wstring(element);
-    if (face[0] == 0) {
+    if (face.NumCorner() == 0) {
         Skip(name + L" has no face " + std::to_wstring(load.Face()));
         return;
     }
@@ -124,8 +87,7 @@ void CNasFile::WriteFaceLoad(const Data::CFaceLoad& load, int element) {
         Skip(L"a pressure can't turn");
         return;
     }
-    const Vec3<double> area = DoubleArea(*m_model, record, face) * 0.5;
-    if (!(Length(area) > 0.0)) {
+    if (!(Length(face.area) > 0.0)) {
         Skip(name + L" has no area");
         return;
     }
@@ -134,19 +96,13 @@ void CNasFile::WriteFaceLoad(const Data::CFaceLoad& load, int element) {
         Skip(L"its point does not lie on " + name);
         return;
     }
-    double factor = isPoint ? 1.0 / Length(area) : 1.0;
-    if (load.IsProjected() && !isPoint) {
-        const Vec3<double> at = CentreOf(*m_model, record, face);
-        const Vec3<double> along =
-            LoadAxes(*m_model, load, element, at).AxisVec(load.GetDirection());
-        factor *= std::abs(Dot(along, area)) / Length(area);
-    }
+    const double factor = PressureFactor(*m_model, load, element, face);
     StartCard("PLOAD4");
     AddInt(load.LoadCase());
     AddInt(element);
-    AddFacePressures(load, element, face, factor);
+    AddFacePressures(load, element, face.corners, factor);
     if (record.Is3D()) {
-        const FaceNodes nodes = NodesOfFace(record, face);
+        const FaceNodes nodes = NodesOfFace(record, face.corners);
         AddInt(nodes.g1);
         if (nodes.g3 != 0) {
             AddInt(nodes.g3);

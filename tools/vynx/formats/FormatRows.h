@@ -12,6 +12,8 @@ Format DocumentFormat();
 Format KeywordFormat();
 Format SqlFormat();
 Format NastranFormat();
+Format OpenseesFormat();
+Format Sap2000Format();
 
 /// Runs a single-file writer of the library on a job.
 inline bool RunWriter(Tevra::CStreamFile& writer, ExportJob& job) {
