@@ -1,11 +1,9 @@
 #include "dyna/DynaAnalysis.h"
 
-#include <ctime>
-
 #include "dyna/DynaOut.h"
+#include "io/Text.h"
 #include "model/Util.h"
 #include "model/VynData.h"
-#include "platform/ui/HostServices.h"
 
 namespace Tevra {
 
@@ -116,19 +114,6 @@ bool CDynaAnalysis::WriteSections() {
     return true;
 }
 
-namespace {
-
-/// The line of the date; empty when it can't be made.
-std::string DateLine() {
-    const std::tm now = Host().LocalTime();
-    std::array<char, 128> text{};
-    const std::size_t length =
-        std::strftime(text.data(), text.size(), "$ File created:     %x at %X", &now);
-    return {text.data(), length};
-}
-
-}  // namespace
-
 bool CDynaAnalysis::WriteHeader() {
     const CTitles& titles = m_model->Title();
     TextOut& text = m_out->Text();
@@ -137,7 +122,7 @@ bool CDynaAnalysis::WriteHeader() {
     text.Append("$\n");
     m_out->NameComment(m_model->ProgTitle().ProgramVersion(), "$ File created in:  Tevra VYN ");
     m_out->NameComment(titles.FileName(), "$ VYN model file:   ");
-    text.Append(DateLine()).EndLine();
+    text.Append(TimeText("$ File created:     %x at %X")).EndLine();
     text.Append("$\n$ Notes:\n$ 1 All data written in SI units\n$\n");
     m_out->NameComment(titles.SubTitle(), "$ Subtitle:     ");
     m_out->NameComment(titles.CalcHeading(), "$ Calc heading: ");

@@ -18,6 +18,7 @@
 
 namespace Tevra {
 
+class CAssemblyElements;
 class CVynData;
 class DynaOut;
 struct CutElement;
@@ -219,7 +220,7 @@ private:
 
     // --- cross sections
     bool WriteCrossSections();
-    bool WriteCrossSection(int assembly, const CutPlane& plane);
+    bool WriteCrossSection(int assembly, const CAssemblyElements& elements, const CutPlane& plane);
     int WritePlaneAxes(const CutPlane& plane);
     std::vector<int> PartsOf(const std::vector<CutElement>& cuts) const;
 

@@ -40,9 +40,10 @@ bool CDynaAnalysis::WriteCrossSections() {
         if (places.empty()) {
             Skip(L"Assembly", number, L"it has neither cuts nor storeys");
         }
+        const CAssemblyElements elements(*m_model, assembly);
         for (const double place : places) {
             const CutPlane plane = CutPlane::Of(*m_model, assembly, true, place);
-            if (!WriteCrossSection(number, plane)) {
+            if (!WriteCrossSection(number, elements, plane)) {
                 return false;
             }
         }
@@ -62,9 +63,10 @@ std::vector<int> CDynaAnalysis::PartsOf(const std::vector<CutElement>& cuts) con
 
 /// The parts that a plane cuts, its axes, and the plane: from one corner along the assembly's y and
 /// z, its normal along x.
-bool CDynaAnalysis::WriteCrossSection(int assembly, const CutPlane& plane) {
+bool CDynaAnalysis::WriteCrossSection(int assembly, const CAssemblyElements& elements,
+                                      const CutPlane& plane) {
     const Data::CAssembly& record = m_model->Assembly(assembly);
-    const std::vector<int> parts = PartsOf(FindCut(*m_model, record, plane));
+    const std::vector<int> parts = PartsOf(FindCut(*m_model, record, elements, plane));
     if (parts.empty()) {
         Skip(L"A cut of assembly", assembly, L"it cuts nothing");
         return true;

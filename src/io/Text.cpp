@@ -1,8 +1,11 @@
 #include "io/Text.h"
 
+#include <array>
 #include <cstddef>
+#include <ctime>
 
 #include "platform/text/Utf8.h"
+#include "platform/ui/HostServices.h"
 
 namespace Tevra {
 
@@ -20,6 +23,13 @@ std::string CardText(std::wstring_view text) {
     std::string out;
     AppendCardText(out, text);
     return out;
+}
+
+std::string TimeText(const char* format) {
+    const std::tm now = Host().LocalTime();
+    std::array<char, 128> text{};
+    const std::size_t length = std::strftime(text.data(), text.size(), format, &now);
+    return {text.data(), length};
 }
 
 }  // namespace Tevra

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "model/LoadValues.h"
 #include "model/SpanLoads.h"
 #include "model/VynData.h"
 
@@ -9,23 +10,10 @@ namespace Tevra {
 
 LoadedLine LoadedLine::Of(const CVynData& model, int element) {
     const Data::CElement& record = model.Elem(element);
-    return {model.ElemLen(element), model.ElemDC(element),
-            (model.TopoPosition(record, 1) + model.TopoPosition(record, 2)) * 0.5};
+    return {model.ElemLen(element), model.ElemDC(element), MiddleOf(model, record)};
 }
 
 namespace {
-
-/// What a load of 1 in the direction of a beam load is in element axes.
-Vec3<double> UnitLoad(const CVynData& model, const LoadedLine& line, const Data::CBeamLoad& load) {
-    const int k = ToTrans(load.GetDirection()) - Direction::X;
-    Vec3<double> unit;
-    unit[k] = 1.0;
-    if (load.Axis() != kLocalAxis) {
-        unit = line.axes.GtoL(model.AxisDC(load.Axis(), line.middle).AxisVec(k));
-    }
-    const bool isProjected = load.IsProjected() && load.TypeOf() != BeamLoadType::Point;
-    return isProjected ? unit * std::hypot(unit.y, unit.z) : unit;
-}
 
 double Metres(const Data::LoadPoint& point, double length) {
     return point.isFraction ? point.position * length : point.position;
@@ -35,7 +23,7 @@ double Metres(const Data::LoadPoint& point, double length) {
 
 void AddBeamLoad(const CVynData& model, const LoadedLine& line, const Data::CBeamLoad& load,
                  double factor, SpanLoads& loads) {
-    const Vec3<double> unit = UnitLoad(model, line, load) * factor;
+    const Vec3<double> unit = UnitBeamLoad(model, load, line.axes, line.middle) * factor;
     if (load.TypeOf() == BeamLoadType::Point) {
         loads.AddPoint(Metres(load.Point(1), line.length), unit * load.Value(1), line.length);
         return;
@@ -112,6 +100,10 @@ double MeanPressure(const CVynData& model, const Data::CFaceLoad& load, int elem
         sum += CornerPressure(model, load, element, k);
     }
     return sum / face.NumCorner() * PressureFactor(model, load, element, face);
+}
+
+double MeanPressure(const CVynData& model, const Data::CFaceLoad& load, int element) {
+    return MeanPressure(model, load, element, LoadedFace::Of(model, element, load.Face()));
 }
 
 }  // namespace Tevra

@@ -60,4 +60,7 @@ double CornerPressure(const CVynData& model, const Data::CFaceLoad& load, int el
 double MeanPressure(const CVynData& model, const Data::CFaceLoad& load, int element,
                     const LoadedFace& face);
 
+/// The same on the face that the load names; not finite where there is none.
+double MeanPressure(const CVynData& model, const Data::CFaceLoad& load, int element);
+
 }  // namespace Tevra

@@ -1,5 +1,6 @@
 #include "model/SpanFrame.h"
 
+#include "model/LoadValues.h"
 #include "model/VynData.h"
 
 namespace Tevra {
@@ -40,7 +41,7 @@ SpanFrame SpanFrame::Of(const CVynData& model, int element, int stage) {
     frame.element = element;
     frame.length = model.ElemLen(element);
     frame.axes = model.ElemDC(element);
-    frame.middle = (model.TopoPosition(record, 1) + model.TopoPosition(record, 2)) * 0.5;
+    frame.middle = MiddleOf(model, record);
     frame.bends = record.IsSection();
     frame.isPinned = frame.bends && !record.IsBeam();
     if (frame.bends) {

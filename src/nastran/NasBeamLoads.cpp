@@ -2,6 +2,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "model/LoadValues.h"
 #include "model/VynData.h"
 #include "nastran/NasFile.h"
 
@@ -106,16 +107,16 @@ void CNasFile::WriteBeamLoadOn(const Data::CBeamLoad& load, int element) {
         return;
     }
     const Data::CElement& record = m_model->Elem(element);
-    const Vec3<double>& start = m_model->TopoPosition(record, 1);
-    const Vec3<double>& end = m_model->TopoPosition(record, 2);
+    const Vec3<double> along = m_model->TopoPosition(record, 2) - m_model->TopoPosition(record, 1);
     Vec3<double> local;
     local[static_cast<int>(ToTrans(d))] = 1.0;
-    const Vec3<double> global = m_model->AxisDC(load.Axis(), (start + end) * 0.5).LtoG(local);
-    const double sine = Length(Cross(end - start, global)) / Length(end - start);
+    const Vec3<double> global =
+        m_model->AxisDC(load.Axis(), MiddleOf(*m_model, record)).LtoG(local);
+    const double sine = Length(Cross(along, global)) / Length(along);
     for (int k = 0; k < 3; ++k) {
         if (std::abs(global[k]) > kLeastShare) {
-            const auto along = static_cast<Direction>(IsTrans(d) ? k : k + 3);
-            WriteBeamLoadCard(load, element, TypeWord(along, false),
+            const auto component = static_cast<Direction>(IsTrans(d) ? k : k + 3);
+            WriteBeamLoadCard(load, element, TypeWord(component, false),
                               global[k] * (isProjected ? sine : 1.0));
         }
     }

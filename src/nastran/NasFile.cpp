@@ -1,10 +1,8 @@
 #include "nastran/NasFile.h"
 
-#include <ctime>
-
+#include "io/Text.h"
 #include "io/TextOut.h"
 #include "model/VynData.h"
-#include "platform/ui/HostServices.h"
 
 namespace Tevra {
 
@@ -15,15 +13,6 @@ namespace {
 
 constexpr const wchar_t* kNumbersTooHigh =
     L"The numbers of materials and properties do not fit into a field";
-
-/// The date of the first comment; empty when it can't be made.
-std::string DateText() {
-    const std::tm now = Host().LocalTime();
-    std::array<char, 128> text{};
-    const std::size_t length =
-        std::strftime(text.data(), text.size(), " on %A, %d %b %Y at %H:%M:%S", &now);
-    return {text.data(), length};
-}
 
 }  // namespace
 
@@ -81,7 +70,10 @@ bool CNasFile::Write() {
 void CNasFile::WriteOrigin() {
     const CProgTitles& program = m_model->ProgTitle();
     m_out->Append("$ This file was originally written by ").AppendCard(program.ProgramName());
-    m_out->Append(" version ").AppendCard(program.ProgramVersion()).Append(DateText()).EndLine();
+    m_out->Append(" version ")
+        .AppendCard(program.ProgramVersion())
+        .Append(TimeText(" on %A, %d %b %Y at %H:%M:%S"))
+        .EndLine();
     m_out->Append("$\n$ VYN and NASTRAN elements use the same local axes definitions\n$\n");
 }
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "io/TextOut.h"
+#include "model/LoadValues.h"
 #include "model/VynData.h"
 #include "nastran/ComponentDigits.h"
 #include "nastran/NasFile.h"
@@ -136,13 +137,12 @@ bool CNasFile::WriteNodeLoads() {
 
 void CNasFile::WriteNodeLoad(const Data::CNodeLoad& load, int node) {
     const Direction d = load.GetDirection();
-    const int axis = load.Axis() == kLocalAxis ? m_model->Node(node).Axis() : load.Axis();
     Vec3<double> components;
     components[static_cast<int>(ToTrans(d))] = load.Value();
     StartCard(IsTrans(d) ? "FORCE" : "MOMENT");
     AddInt(load.LoadCase());
     AddInt(node);
-    AddInt(CoordinateSystem(axis));
+    AddInt(CoordinateSystem(AxisOfNodeLoad(*m_model, load, node)));
     AddReal(1.0);
     AddReals(components);
     EndCard();

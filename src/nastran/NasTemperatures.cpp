@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "model/Faces.h"
+#include "model/LoadValues.h"
 #include "model/VynData.h"
 #include "nastran/NasFile.h"
 
@@ -17,44 +18,6 @@ namespace {
 
 bool IsUsable(double value) {
     return std::isfinite(value) && value != 0.0;
-}
-
-/// Mean of the corners of a plane of `first` on.
-double MeanOf(const Data::CFaceThermalLoad& load, int first, int corners) {
-    double sum = 0.0;
-    for (int k = 0; k < corners; ++k) {
-        sum += load.Value(first + k);
-    }
-    return sum / corners;
-}
-
-/// Temperatures at the top and at the bottom of a plane.
-struct Faces {
-    double top = 0.0;
-    double bottom = 0.0;
-};
-
-Faces FacesOf(const Data::CFaceThermalLoad& load, int corners) {
-    switch (load.TypeOf()) {
-        case FaceThermalType::Uniform:
-            return {load.Value(1), load.Value(1)};
-        case FaceThermalType::Gradient:
-            return {load.Value(1), load.Value(2)};
-        default:
-            return {MeanOf(load, 1, corners), MeanOf(load, 5, corners)};
-    }
-}
-
-/// Force per E of a prestress of 1D elements: P/E. Strain e is e A, a lack of fit d is d A / L.
-double ForcePerE(const Data::CAxialLoad& load, double e, double area, double length) {
-    switch (load.TypeOf()) {
-        case AxialLoadType::Strain:
-            return load.Value() * area;
-        case AxialLoadType::LackOfFit:
-            return load.Value() * area / length;
-        default:
-            return load.Value() / e;
-    }
 }
 
 }  // namespace
@@ -109,7 +72,8 @@ void CNasFile::WriteAxialLoad(const Data::CAxialLoad& load, int element) {
              L" has no modulus, expansion coefficient, area or second moment");
         return;
     }
-    const double strainForce = ForcePerE(load, e, p.area, m_model->ElemLen(element)) / alpha;
+    const double strainForce =
+        PrestressForce(load, e, p.area, m_model->ElemLen(element)) / (e * alpha);
     const double z = load.ZOffset() != 0.0 ? -strainForce * load.ZOffset() / p.iyy : 0.0;
     const double y = load.YOffset() != 0.0 ? strainForce * load.YOffset() / p.izz : 0.0;
     WriteTemprb(load.LoadCase(), element, -strainForce / p.area, z, y);
@@ -133,20 +97,14 @@ bool CNasFile::WriteBeamTemperatures() {
 /// A gradient g between two places is the temperature T1 - g pos1 at the centroid, beside the
 /// uniform part; along the host's y it has the other sign in the target's axes.
 void CNasFile::WriteBeamTemperature(const Data::CBeamThermalLoad& load, int element) {
-    if (load.TypeOf() == BeamThermalType::Uniform) {
-        WriteTemprb(load.LoadCase(), element, load.Value(1), 0.0, 0.0);
-        return;
-    }
-    const double depth = load.Pos(2) - load.Pos(1);
-    if (!IsUsable(depth)) {
+    const SectionTemperature t = TemperatureOf(load);
+    if (!std::isfinite(t.gradient)) {
         Skip(L"the two places of its temperatures are the same");
         return;
     }
-    const double gradient = (load.Value(2) - load.Value(1)) / depth;
-    const double mean = load.Value(1) - gradient * load.Pos(1) + load.UniformPart();
     const bool alongZ = load.TypeOf() == BeamThermalType::GradientZ;
-    WriteTemprb(load.LoadCase(), element, mean, alongZ ? gradient : 0.0,
-                alongZ || gradient == 0.0 ? 0.0 : -gradient);
+    WriteTemprb(load.LoadCase(), element, t.mean, alongZ ? t.gradient : 0.0,
+                alongZ || t.gradient == 0.0 ? 0.0 : -t.gradient);
 }
 
 /// Temperature and gradients along the target's y and z, alike at both ends.
@@ -215,11 +173,9 @@ bool CNasFile::WriteFaceTemperatures() {
         }
         for (const int element : LoadedElements(load, 2)) {
             const Data::CElement& record = m_model->Elem(element);
-            const Faces faces = FacesOf(load, CornerCount(record.Type()));
-            const double t = m_model->Prop2D(record.Property()).Thickness();
-            const double difference = faces.top - faces.bottom;
-            WriteTempp1(load.LoadCase(), element, 0.5 * (faces.top + faces.bottom),
-                        difference != 0.0 ? difference / t : 0.0);
+            const SectionTemperature t = TemperatureOf(
+                load, CornerCount(record.Type()), m_model->Prop2D(record.Property()).Thickness());
+            WriteTempp1(load.LoadCase(), element, t.mean, t.gradient);
         }
     }
     return true;

@@ -41,6 +41,8 @@ struct Format {
     std::string_view title;
     /// Extensions of its files; files written without a name of their own get the first.
     std::vector<std::string_view> extensions;
+    /// Further words that name it on the command line.
+    std::vector<std::string_view> aliases{};
     std::vector<OptionSpec> options;  ///< of the writer
     /// What a model lacks to be written with these options, as a sentence; empty when nothing.
     std::string (*lacks)(const Tevra::CVynData& model, const OptionValues& options) = nullptr;

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "platform/text/Ascii.h"
 #include "vynx/Format.h"
 #include "vynx/formats/FormatRows.h"
@@ -33,15 +35,16 @@ const Format* FormatOf(const std::filesystem::path& file, WillDo&& willDo) {
 }  // namespace
 
 const std::vector<Format>& Formats() {
-    static const std::vector<Format> kFormats{DampingFormat(), SqlFormat(),   NastranFormat(),
-                                              LsDynaFormat(),  QuorlFormat(), DocumentFormat(),
-                                              KeywordFormat()};
+    static const std::vector<Format> kFormats{DampingFormat(), SqlFormat(),      NastranFormat(),
+                                              LsDynaFormat(),  OpenseesFormat(), Sap2000Format(),
+                                              QuorlFormat(),   DocumentFormat(), KeywordFormat()};
     return kFormats;
 }
 
 const Format* FindFormat(std::string_view id) {
     for (const Format& format : Formats()) {
-        if (format.id == id) {
+        const auto& aliases = format.aliases;
+        if (format.id == id || std::find(aliases.begin(), aliases.end(), id) != aliases.end()) {
             return &format;
         }
     }

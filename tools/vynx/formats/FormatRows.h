@@ -13,6 +13,8 @@ Format KeywordFormat();
 Format LsDynaFormat();
 Format SqlFormat();
 Format NastranFormat();
+Format OpenseesFormat();
+Format Sap2000Format();
 Format QuorlFormat();
 
 /// Writes the report of an export to its own file, whole or not at all; without a path nothing is

@@ -1,0 +1,23 @@
+#include "model/Placed.h"
+
+#include <cmath>
+
+#include "model/VynData.h"
+
+namespace Tevra {
+
+bool IsPlaced(const CVynData& model, int node) {
+    const Data::CNode* record = model.NodeTable().Find(node);
+    return record != nullptr && std::isfinite(record->Position().x) &&
+           std::isfinite(record->Position().y) && std::isfinite(record->Position().z);
+}
+
+bool HasPlacedNodes(const CVynData& model, const Data::CElement& element) {
+    bool has = element.NumTopo() >= InfoOf(element.Type()).minNodes;
+    for (int k = 1; k <= element.NumTopo(); ++k) {
+        has = has && IsPlaced(model, element.Topo(k));
+    }
+    return has;
+}
+
+}  // namespace Tevra

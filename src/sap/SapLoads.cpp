@@ -1,0 +1,177 @@
+#include <algorithm>
+
+#include "io/Text.h"
+#include "model/LoadValues.h"
+#include "platform/text/Ascii.h"
+#include "sap/SapContext.h"
+#include "sap/SapFile.h"
+#include "sap/SapKeys.h"
+
+// The order of the load block, names of the cases, gravity and loads at joints.
+
+namespace Tevra {
+
+bool CSapFile::IsCurved(int axis) const {
+    return m_model->AxisExist(axis) && m_model->Axis(axis).TypeOf() != AxisType::Cartesian;
+}
+
+bool CSapFile::WriteLoads(SapContext& c) {
+    const CVynData& model = *m_model;
+    if (model.NumAppliedDisplacement() == 0 && c.gravity.IsEmpty() && c.nodeLoads.IsEmpty() &&
+        c.settlements.IsEmpty() && c.beamLoads.IsEmpty() && c.axialLoads.IsEmpty() &&
+        c.beamTemperatures.IsEmpty() && c.faceLoads.IsEmpty() && c.faceTemperatures.IsEmpty()) {
+        return true;
+    }
+    using Group = bool (CSapFile::*)(SapContext&, int);
+    constexpr Group kGroups[] = {
+        &CSapFile::WriteCaseName,         &CSapFile::WriteGravity,
+        &CSapFile::WriteNodeForces,       &CSapFile::WriteSpringDisplacements,
+        &CSapFile::WriteSpanLoads,        &CSapFile::WriteFaceLoads,
+        &CSapFile::WriteBeamTemperatures, &CSapFile::WriteFaceTemperatures,
+    };
+    c.out.Append("LOAD\n");
+    for (const int loadCase : model.LoadCases().Numbers()) {
+        for (const Group group : kGroups) {
+            if (!(this->*group)(c, loadCase)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+namespace {
+
+constexpr std::size_t kNameLength = 7;
+
+/// A title without blanks and with the characters that names may have.
+std::wstring PlainTitle(const std::wstring& title) {
+    std::wstring name;
+    for (const wchar_t c : title) {
+        if (c == L'(' || c == L')') {
+            name += L'+';
+        } else if (!Text::IsSpace(c)) {
+            name += c == L'_' ? L'-' : c;
+        }
+    }
+    return name;
+}
+
+/// The number stands where the name still shows it whole. Kept: above 999 it is left out.
+std::wstring NameOf(const std::wstring& title, int loadCase) {
+    std::wstring name = PlainTitle(title);
+    const std::wstring number = std::to_wstring(loadCase);
+    if (number.size() <= 3) {
+        name.insert(std::min(kNameLength - number.size(), name.size()), number);
+    }
+    return name.substr(0, kNameLength);
+}
+
+}  // namespace
+
+bool CSapFile::WriteCaseName(SapContext& c, int loadCase) {
+    const std::wstring name = m_model->LoadCaseTitleExist(loadCase)
+                                  ? NameOf(m_model->LoadCaseTitle(loadCase).Name(), loadCase)
+                                  : std::wstring();
+    if (name.empty()) {
+        c.out.Append("   NAME=LC").Int(loadCase, 0, 4).EndLine();
+    } else {
+        c.out.Append("  NAME=").AppendCard(name).EndLine();
+    }
+    return true;
+}
+
+namespace {
+
+void AddGravity(RecordText& line, const Vec3<double>& g) {
+    line.Append(" UX=").Padded(g.x);
+    line.Append(" UY=").Padded(g.y).Append(" UZ=").Padded(g.z).Append(' ');
+}
+
+}  // namespace
+
+bool CSapFile::WriteGravity(SapContext& c, int loadCase) {
+    using Entities = std::vector<int> (*)(const SapContext&, const Data::CGravityLoad&);
+    const std::pair<std::string_view, Entities> groups[] = {
+        {"FRAME",
+         [](const SapContext& in, const Data::CGravityLoad& l) { return SapLoadedFrames(in, l); }},
+        {"SHELL",
+         [](const SapContext& in, const Data::CGravityLoad& l) { return SapLoadedFaces(in, l); }},
+        {"JOINT", [](const SapContext& in,
+                     const Data::CGravityLoad& l) { return SapJointsWithMass(in, l); }},
+    };
+    for (const auto& [word, entities] : groups) {
+        bool hasHeader = false;
+        for (const auto& [of, number] : c.gravity.Of(loadCase)) {
+            const Data::CGravityLoad& load = m_model->GravityLoad(number);
+            std::string kept;
+            for (const int entity : entities(c, load)) {
+                if (!hasHeader) {
+                    c.out.Append("  CSYS=0\n  TYPE=GRAVITY  ELEM=").Append(word).EndLine();
+                    hasHeader = true;
+                }
+                c.line.Append("    ADD=").Int(entity);
+                c.line.Kept(kept, [&] { AddGravity(c.line, load.Value()); });
+                End(c, L"Gravity load", number);
+            }
+        }
+    }
+    return true;
+}
+
+bool CSapFile::WriteNodeForces(SapContext& c, int loadCase) {
+    const auto loads = c.nodeLoads.Of(loadCase);
+    c.out.Append(loads.empty() ? "" : "  TYPE=FORCE\n");
+    int axis = -1;
+    for (const auto& [of, number] : loads) {
+        WriteNodeForce(c, number, axis);
+    }
+    return true;
+}
+
+void CSapFile::WriteNodeForce(SapContext& c, int number, int& axis) {
+    const Data::CNodeLoad& load = m_model->NodeLoad(number);
+    bool hasCurved = false;
+    for (const int node : SapLoadedNodes(*m_model, load)) {
+        const int named = AxisOfNodeLoad(*m_model, load, node);
+        if (IsCurved(named)) {
+            hasCurved = true;
+            continue;
+        }
+        const int own = m_model->AxisExist(named) ? named : kGlobalAxis;
+        if (own != axis) {
+            c.out.Append("   CSYS=").Int(own).EndLine();
+            axis = own;
+        }
+        c.line.Append("   ADD=").Int(node).Append("    ").Append(JoinedKey(load.GetDirection()));
+        c.line.Append('=').Padded(load.Value());
+        End(c, L"Node load", number);
+    }
+    if (hasCurved) {
+        AddNote(L"Nodal Loads in Cylindrical and Spherical coordinate systems not exported");
+    }
+}
+
+/// Settlements have no axis in the file: what is not in global axes becomes its global components.
+bool CSapFile::WriteSpringDisplacements(SapContext& c, int loadCase) {
+    const auto loads = c.settlements.Of(loadCase);
+    c.out.Append(loads.empty() ? "" : "  TYPE=SPRING DISPLACEMENT\n");
+    for (const auto& [of, number] : loads) {
+        const Data::CSettlement& load = m_model->Settlement(number);
+        for (const int node : SapLoadedNodes(*m_model, load)) {
+            const Vec3<double> global = GlobalNodeLoad(*m_model, load, node);
+            for (const Direction d : kDirections) {
+                const double value = global[static_cast<int>(ToTrans(d))];
+                if (IsTrans(d) != IsTrans(load.GetDirection()) || value == 0.0) {
+                    continue;
+                }
+                c.line.Append("    ADD=").Int(node).Append(' ').Append(JoinedKey(d));
+                c.line.Append('=').Padded(value);
+                End(c, L"Settlement", number);
+            }
+        }
+    }
+    return true;
+}
+
+}  // namespace Tevra
