@@ -9,7 +9,7 @@ function(vyn_add_tests folder)
     if(sources)
         set(target vyn_test_${folder})
         add_executable(${target} ${sources})
-        vyn_configure_target(${target})
+        vyn_configure_test_target(${target})
         target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
         target_link_libraries(${target} PRIVATE vyn_test_support Vyn::interchange Vyn::document
                                                 GTest::gtest_main)

@@ -34,6 +34,13 @@ if(VYN_WERROR)
     list(APPEND vynWarnings -Werror)
 endif()
 
+# vyn_configure_test_target(<target>): a program that checks or measures others: its own speed does
+# not count in a build for debugging, and it is most of what such a build compiles.
+function(vyn_configure_test_target target)
+    vyn_configure_target(${target})
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Debug>:-O0 -g1>)
+endfunction()
+
 # vyn_configure_target(<target>): what every compiled target of this tree shares.
 function(vyn_configure_target target)
     target_compile_features(${target} PUBLIC cxx_std_20)

@@ -215,7 +215,10 @@ int NotCounted(const CVynData& model) {
     for (const int number : model.ElemTable().Numbers()) {
         const Data::CElement& element = model.Elem(number);
         const bool isPanel = element.Is2D() && model.Prop2D(element.Property()).IsLoadPanel();
-        count += isPanel || element.IsSpring() || element.IsSpacer() ? 1 : 0;
+        count += isPanel || element.IsSpring() || element.IsSpacer() || element.IsDamper() ||
+                         element.Type() == ElementType::Mass
+                     ? 1
+                     : 0;
     }
     return count;
 }

@@ -43,8 +43,7 @@ TEST_F(FrameFormats, ShapesAreThoseOfTheOption) {
     EXPECT_FALSE(Wrote(" T=0."));
     EXPECT_TRUE(Wrote(" SH=G A="));
     EXPECT_NE(Export("footbridge.json", "sap2000", {"--sections", "all"}), kDone);
-    EXPECT_NE(Export("portal.json", "sap2000"), kDone);
-    EXPECT_TRUE(Says("beam load 8 is trilinear"));
+    EXPECT_EQ(Export("portal.json", "sap2000"), kDone) << m_err;
 }
 
 }  // namespace
