@@ -6,6 +6,9 @@
 /// are left off at the ends of lines.
 namespace Tevra::DynaCards {
 
+/// Number of the set of all parts.
+inline constexpr int kAllPartsSet = 1;
+
 // --- coordinate systems and parts
 inline constexpr DynaLayout kCoordinateSystem{
     "*DEFINE_COORDINATE_SYSTEM",

@@ -3,6 +3,7 @@
 
 #include "dyna/DynaAnalysis.h"
 #include "dyna/DynaCards.h"
+#include "dyna/DynaElementKind.h"
 #include "dyna/DynaOut.h"
 #include "model/Util.h"
 #include "model/VynData.h"
@@ -14,8 +15,6 @@ namespace Tevra {
 using namespace DynaCards;
 
 namespace {
-
-constexpr unsigned kAllFreedoms = 63;
 
 int DofOf(Direction d) {
     return static_cast<int>(d) + 1;
@@ -102,7 +101,7 @@ void CDynaAnalysis::WriteRigid(int number) {
     m_out->Card<kRigidBody>(part, 0, set);
     WriteSet(kNodeList, set, nodes);
     AddBody(part, nodes);
-    if (LinkedFreedoms(rigid.TypeOf()).Bits() != kAllFreedoms) {
+    if (rigid.TypeOf() != kAllLinked) {
         AddNote(L"Rigid constraint", number,
                 L"is written as a rigid body, which ties all freedoms");
     }

@@ -14,7 +14,6 @@ namespace {
 
 /// Share of the critical time step that is used.
 constexpr double kStepFactor = 0.9;
-constexpr int kAllPartsSet = 1;
 
 /// `-value` without a negative zero.
 double Negative(double value) {

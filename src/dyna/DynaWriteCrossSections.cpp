@@ -16,6 +16,9 @@ using namespace DynaCards;
 
 namespace {
 
+/// Columns of the heading of a cut.
+constexpr std::size_t kLongestHeading = 70;
+
 constexpr int kForcesInSystem = 2;
 
 /// Places of the planes as fractions of the line: the storeys of a storey assembly, else its cuts.
@@ -76,7 +79,8 @@ bool CDynaAnalysis::WriteCrossSection(int assembly, const CAssemblyElements& ele
                  std::to_wstring(assembly));
         return false;
     }
-    const int set = NextSet();
+    int set = NextSet();
+    set = set == kAllPartsSet ? NextSet() : set;
     WriteSet(kPartList, set, parts);
     const int system = WritePlaneAxes(plane);
     const int section = ++m_crossSections;
@@ -85,7 +89,7 @@ bool CDynaAnalysis::WriteCrossSection(int assembly, const CAssemblyElements& ele
     const Vec3<double> edge = tail + plane.axes.AxisVec(1);
     m_out->Keyword(kCrossSection);
     m_out->Int(section, 10);
-    m_out->Text().AppendCard(record.Name()).EndLine();
+    m_out->Text().AppendCard(record.Name().substr(0, kLongestHeading)).EndLine();
     m_out->Line<kCrossSection>(set, tail.x, tail.y, tail.z, head.x, head.y, head.z);
     m_out->Line<kCrossSection, 1>(edge.x, edge.y, edge.z, record.Dy(), record.Dz(), system,
                                   kForcesInSystem);

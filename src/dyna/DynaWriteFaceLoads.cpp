@@ -16,7 +16,8 @@ using namespace DynaCards;
 
 namespace {
 
-/// By how much a load may lie off the normal and still be along it.
+/// By how much a load may lie off the normal and still be along it, or off the face and still in
+/// it.
 constexpr double kSmallShare = 1e-6;
 
 /// Part of a load that is along the normal of a face.
@@ -57,22 +58,27 @@ void CDynaAnalysis::WriteFaceLoad(int number, const std::vector<int>& elements, 
         return;
     }
     bool isAlong = true;
+    int left = 0;
     for (const int element : elements) {
         if (!HasNodes(m_model->Elem(element))) {
             continue;  // noted with the elements
         }
         const LoadedFace face = LoadedFace::Of(*m_model, element, load.Face());
         if (!face.Exists() || !face.HasArea()) {
-            Skip(L"Face load", number,
-                 L"element " + std::to_wstring(element) + L" has no such face, or it has no area");
+            ++left;
             continue;
         }
         const double share = NormalShare(*m_model, load, element, face);
         isAlong = isAlong && std::abs(share) >= 1.0 - kSmallShare;
         const double pressure = MeanPressure(*m_model, load, element, face) * -share;
-        if (pressure != 0.0) {
+        if (std::abs(share) > kSmallShare && pressure != 0.0) {
             WritePressure(load.LoadCase(), element, face, pressure, isFirst);
         }
+    }
+    if (left > 0) {
+        Skip(L"Face load", number,
+             L"on " + std::to_wstring(left) +
+                 L" elements that have no such face, or one without area");
     }
     if (!isAlong) {
         AddNote(L"Face load", number, L"keeps the component along the normals of its faces");

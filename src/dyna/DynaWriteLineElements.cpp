@@ -4,6 +4,7 @@
 #include "dyna/DynaAnalysis.h"
 #include "dyna/DynaCards.h"
 #include "dyna/DynaCodes.h"
+#include "dyna/DynaElementKind.h"
 #include "dyna/DynaElementLoop.h"
 #include "dyna/DynaOut.h"
 #include "model/VynData.h"
@@ -153,7 +154,7 @@ void CDynaAnalysis::WriteLink(int element) {
                           axes.AxisVec(1));
     AddBody(part, {record.Topo(1), record.Topo(2)});
     const Data::CLinkProp* const property = m_model->LinkPropTable().Find(record.Property());
-    if (property != nullptr && LinkedFreedoms(property->TypeOf()).Bits() != 63) {
+    if (property != nullptr && property->TypeOf() != kAllLinked) {
         AddNote(L"Element", element, L"is written as a rigid link, which ties all freedoms");
     }
 }

@@ -7,6 +7,7 @@
 #include "dyna/DynaElementLoop.h"
 #include "dyna/DynaOut.h"
 #include "model/LoadForces.h"
+#include "model/Util.h"
 #include "model/VynData.h"
 
 // Loads at nodes, along beams, and gravity. Kept: each refers to its load case as the number of a
@@ -133,6 +134,11 @@ bool CDynaAnalysis::WriteGravity() {
                 m_out->Keyword(*kCards[k]);
                 m_out->Line<kGravityX>(load.LoadCase(), load.Value()[k] * -kGravity);
             }
+        }
+        const CEntList& list = load.LoadedEntities();
+        if (list.TypeOf() != SelType::Element ||
+            Util::NumItem(list, *m_model, -1, true) < m_model->NumElem()) {
+            AddNote(L"Gravity load", number, L"acts on the whole model, not on its elements alone");
         }
         if (directions > 1) {
             AddNote(L"Gravity load", number, L"is written in the first of its directions alone");

@@ -55,10 +55,13 @@ int CDynaAnalysis::StageMaterial(PropertyType kind, int property,
 int CDynaAnalysis::DesignMaterial(const DesignGrade& grade) {
     const int material = NextMaterial();
     const auto [entry, isNew] = m_designMaterials.emplace(grade, material);
-    if (!isNew) {
-        AddNote(L"Material", material,
-                L"of part " + std::to_wstring(m_parts.size() + 1) +
-                    L" is not in the file: its design grade is there as material " +
+    const int part = static_cast<int>(m_parts.size()) + 1;
+    const NumberedTable<Data::CMatDesign>* const family = m_model->DesignTable(grade.first);
+    if (family == nullptr || !family->Exist(grade.second)) {
+        AddNote(L"Part", part, L"has a material that is not in the file: its property has none");
+    } else if (!isNew) {
+        AddNote(L"Part", part,
+                L"has a material that is not in the file: its design grade is there as material " +
                     std::to_wstring(entry->second));
     }
     return material;

@@ -90,11 +90,18 @@ void CDynaAnalysis::WriteBeamSection(int section, int part) {
         m_out->Line<kBeamSection>(part, kResultantBeam);
     }
     if (m_integration && WriteShapedSection(record, part)) {
+        if (record.NumComponent() > 1 || !(record.Modifiers() == Data::SectionModifiers{})) {
+            AddNote(L"Section", section,
+                    L"is written by the shape of its first component, without modifiers");
+        }
         return;
     }
     // Second moments about the solver's s and t, which are our y and z.
     const SectionProperties p = m_model->SectionProp(section, 0, 0.0, true);
     m_out->Line<kBeamSection, 1>(p.area, p.iyy, p.izz, p.j, kShearFactor * p.area);
+    if (!(p.area > 0.0)) {
+        AddNote(L"Section", section, L"is written without an area: its description gives none");
+    }
 }
 
 /// The section by its shape: what the solver integrates, and the points that it could take. False

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "model/Faces.h"
+#include "model/ElasticModuli.h"
 #include "model/Placed.h"
 #include "opensees/OpsFibres.h"
 #include "opensees/OpsMaterials.h"
@@ -37,8 +37,8 @@ void OpsContext::AddSection(int number) {
     made.isFibre = section.NumComponent() == 1 && HasFibreModel(*material) &&
                    HasFibreShape(section.Component(1).Geometry());
     made.material = materials.Prop1D(number).front().mid;
-    made.e = material->E();
-    made.g = material->G();
+    made.e = ElasticModulus(*material);
+    made.g = ShearModulus(*material);
     made.properties = model.SectionProp(number, 0, 0.5, true);
     const SectionProperties& p = made.properties;
     for (const double value : {p.area, made.e, made.g, p.j, p.iyy, p.izz}) {

@@ -125,9 +125,13 @@ bool IsRound(const Data::CSecGeom& geometry, FibreRing& ring) {
 
 bool HasFibreShape(const Data::CSecGeom& geometry) {
     FibreRing ring;
-    return IsRound(geometry, ring) ||
-           std::any_of(std::begin(kLayouts), std::end(kLayouts),
-                       [&](const Layout& l) { return l.shape == geometry.ShapeClass(); });
+    if (IsRound(geometry, ring)) {
+        return ring.inner >= 0.0 && ring.inner < ring.outer;
+    }
+    const std::vector<FibrePatch> patches = RectangularPatches(geometry);
+    return !patches.empty() && std::all_of(patches.begin(), patches.end(), [](const FibrePatch& p) {
+        return p.low.x < p.high.x && p.low.y < p.high.y;
+    });
 }
 
 }  // namespace Tevra

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "model/ElasticModuli.h"
 #include "opensees/OpenseesFile.h"
 #include "opensees/OpsContext.h"
 #include "platform/text/Ascii.h"
@@ -22,7 +23,8 @@ void WriteReal(RecordText& out, double value) {
 
 void WriteElastic(RecordText& out, const CMatAnal& material) {
     const bool isUniaxial = material.Model() == MatModel::UniaxialElastic;
-    WriteReal(out, isUniaxial && material.NumOpsParam() > 0 ? material.OpsParam(0) : material.E());
+    WriteReal(out, isUniaxial && material.NumOpsParam() > 0 ? material.OpsParam(0)
+                                                            : ElasticModulus(material));
 }
 
 void WriteElasticPlastic(RecordText& out, const CMatAnal& material) {

@@ -44,8 +44,16 @@ void WriteFibreSection(OpsContext& c, int number, int material, const Data::CSec
 
 void COpenseesFile::WriteSections(OpsContext& c) {
     c.out.Append("\n# sections\n");
-    for (const int number : c.sections.Numbers()) {
+    for (const int number : m_model->SectionTable().Numbers()) {
+        if (!c.sections.Exist(number)) {
+            AddNote(L"Section", number,
+                    L"is not exported: it has no material, or a value is not a number");
+            continue;
+        }
         const OpsSection& section = c.sections.Get(number);
+        if (section.e == 0.0 && !section.isFibre) {
+            AddNote(L"Section", number, L"is without stiffness: its material has no modulus");
+        }
         if (section.isFibre) {
             WriteFibreSection(c, number, section.material,
                               m_model->Section(number).Component(1).Geometry());

@@ -160,9 +160,12 @@ bool CSapFile::WriteSpringDisplacements(SapContext& c, int loadCase) {
         const Data::CSettlement& load = m_model->Settlement(number);
         for (const int node : SapLoadedNodes(*m_model, load)) {
             const Vec3<double> global = GlobalNodeLoad(*m_model, load, node);
+            // Of what turning gave, parts of nothing are left out; the load itself never is.
+            const bool isTurned = AxisOfNodeLoad(*m_model, load, node) != 0 && load.Value() != 0.0;
             for (const Direction d : kDirections) {
                 const double value = global[static_cast<int>(ToTrans(d))];
-                if (IsTrans(d) != IsTrans(load.GetDirection()) || value == 0.0) {
+                if (IsTrans(d) != IsTrans(load.GetDirection()) ||
+                    (value == 0.0 && (isTurned || d != load.GetDirection()))) {
                     continue;
                 }
                 c.line.Append("    ADD=").Int(node).Append(' ').Append(JoinedKey(d));

@@ -1,3 +1,4 @@
+#include "model/ElasticModuli.h"
 #include "model/LoadValues.h"
 #include "sap/SapContext.h"
 #include "sap/SapFile.h"
@@ -165,7 +166,7 @@ void CSapFile::WritePrestress(SapContext& c, int loadCase) {
             const int section = SapProperty(*m_model, element);
             const Data::CMatAnal* material =
                 m_model->FindMaterial(m_model->Section(section).Component(1).Material());
-            const double e = material != nullptr ? material->E() : 0.0;
+            const double e = material != nullptr ? ElasticModulus(*material) : 0.0;
             const double area = m_model->SectionProp(section, 0, 0.5, true).area;
             const double force = PrestressForce(load, e, area, m_model->ElemLen(element));
             c.line.Append("      ADD=").Int(element).Append("   P=").Padded(force).Append(' ');

@@ -113,6 +113,24 @@ TEST_F(OpsStructure, ElasticSectionsAndShells) {
               (Lines{"Elastic 4 2e+11 0.01 0.0001 0.0002 8e+10 3e-06",
                      "ElasticMembranePlateSection 8 2e+11 0.25 0.2 7850"}));
     EXPECT_EQ(script.Named("element"), Lines{"ShellMITC4 1 1 2 3 4 8"});
+    EXPECT_TRUE(HasNote(L"Section 7 is not exported: it has no material"));
+}
+
+// The modulus of an elastic section is what its uniaxial model begins with: E, 2 fpc / epsc0, none.
+TEST_F(OpsStructure, ElasticSectionsOfUniaxialMaterials) {
+    CVynData model = BeamModel();
+    model.SetMatAnal(1, Uniaxial(MatModel::UniaxialSteel01, {5e8, 2e11, 0.01}));
+    model.SetMatAnal(2, Uniaxial(MatModel::UniaxialConcrete01, {-3e7, -0.002, -2e7, -0.006}));
+    model.SetMatAnal(3, Uniaxial(MatModel::UniaxialViscous, {1e5, 0.5}));
+    for (int n = 1; n <= 3; ++n) {
+        model.SetSection(n, Data::CSection(L"", L"EXP%0.01%2E-4%1E-4%3E-6", Generic(n)));
+    }
+    const Lines sections = Write(model).Named("section");
+    ASSERT_EQ(sections.size(), 3U);
+    EXPECT_EQ(sections[0], "Elastic 1 2e+11 0.01 0.0001 0.0002 1e+11 3e-06");
+    EXPECT_EQ(sections[1].substr(0, 20), "Elastic 2 3e+10 0.01");
+    EXPECT_EQ(sections[2].substr(0, 16), "Elastic 3 0 0.01");
+    EXPECT_TRUE(HasNote(L"Section 3 is without stiffness"));
 }
 
 /// A beam of fibres along X.

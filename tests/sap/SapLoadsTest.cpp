@@ -130,6 +130,13 @@ TEST_F(SapLoads, SettlementsInGlobalComponents) {
     EXPECT_EQ(Case1(model), std::string("  TYPE=SPRING DISPLACEMENT\n    ADD=2 ") + kUz +
                                 "=-0.0100000\n    ADD=2 " + kUx + "=-0.00600000\n    ADD=2 " + kUy +
                                 "=-0.00800000\n");
+    load.SetAxis(0);
+    load.SetValue(0.0);
+    model.DeleteSettlement(1);
+    model.SetSettlement(2, load);
+    EXPECT_EQ(Case1(model),
+              std::string("  TYPE=SPRING DISPLACEMENT\n    ADD=2 ") + kUx + "=0.00000\n")
+        << "a support that is held where it is";
 }
 
 TEST_F(SapLoads, PointLoadsInElementAxes) {

@@ -44,8 +44,11 @@ Format OpenseesFormat() {
     return {.id = "opensees",
             .title = "OpenSees script",
             .extensions = {".tcl"},
-            .options = {{"case", OptionKind::Integer, "1",
-                         "load case whose loads are written, 0 none"}},
+            .options = {{.name = "case",
+                         .kind = OptionKind::Integer,
+                         .fallback = "1",
+                         .help = "load case whose loads are written, 0 none",
+                         .least = 0.0}},
             .lacks = &Lacks,
             .write = &Write};
 }

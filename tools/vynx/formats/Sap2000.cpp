@@ -14,16 +14,6 @@ int SectionOutputOf(const std::string& word) {
     return word == "general" ? CSapFile::kGeneral : CSapFile::kByShapeClass;
 }
 
-std::string Lacks(const Tevra::CVynData& model, const OptionValues& /*options*/) {
-    for (const int number : model.BeamLoadTable().Numbers()) {
-        if (model.BeamLoad(number).TypeOf() == Tevra::BeamLoadType::Trilinear) {
-            return "beam load " + std::to_string(number) +
-                   " is trilinear, which the file can't carry";
-        }
-    }
-    return {};
-}
-
 bool Write(ExportJob& job) {
     CSapFile writer;
     writer.SetLocaleMode(SectionOutputOf(job.options.Text("sections")));
@@ -42,7 +32,6 @@ Format Sap2000Format() {
                          .fallback = "class",
                          .help = "what shapes of sections are chosen by; general: none",
                          .choices = {"class", "code", "general"}}},
-            .lacks = &Lacks,
             .write = &Write};
 }
 
