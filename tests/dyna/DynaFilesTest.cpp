@@ -250,6 +250,28 @@ TEST_F(DynaFiles, CrossSectionsOfAssemblies) {
     EXPECT_EQ(deck.Rows("DATABASE_CROSS_SECTION_PLANE_ID", 1).at(1).Int("CSID"), 2);
 }
 
+// Set 1 is that of all parts.
+TEST_F(DynaFiles, CutsOfAModelWithoutOtherSets) {
+    CVynData model = Example("isolated");
+    for (int number = model.HighestElem(); number > 0; --number) {
+        if (model.Elem(number).IsLink()) {
+            model.DeleteElem(number);
+        }
+    }
+    for (int number = model.HighestTiedInterface(); number > 0; --number) {
+        model.DeleteTiedInterface(number);
+    }
+    for (int number = model.HighestRigid(); number > 0; --number) {
+        model.DeleteRigid(number);
+    }
+    for (int number = model.HighestList(); number > 0; --number) {
+        model.DeleteList(number);
+    }
+    const KeywordDeck deck = Write(model);
+    ASSERT_GT(deck.Count("SET_PART_LIST"), 0);
+    EXPECT_EQ(deck.Rows("SET_PART_LIST").at(0).Int("SID"), 2);
+}
+
 TEST_F(DynaFiles, HistoriesAreEightToALine) {
     for (const int count : {0, 8, 9}) {
         CVynData model;

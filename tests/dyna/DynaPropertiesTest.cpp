@@ -154,8 +154,9 @@ TEST_F(DynaProperties, DesignGradesGetNumbersAboveTheMaterials) {
     }
     EXPECT_EQ(cards, (std::vector<long>{1, 5, 7, 10, 6}));
     EXPECT_TRUE(
-        HasNote(L"Material 8 of part 3 is not in the file: its design grade is there as "
+        HasNote(L"Part 3 has a material that is not in the file: its design grade is there as "
                 L"material 6"));
+    EXPECT_TRUE(HasNote(L"Part 4 has a material that is not in the file: its property has none"));
 }
 
 TEST_F(DynaProperties, TitlesOfParts) {

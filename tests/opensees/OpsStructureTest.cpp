@@ -123,11 +123,14 @@ TEST_F(OpsStructure, ElasticSectionsOfUniaxialMaterials) {
     model.SetMatAnal(2, Uniaxial(MatModel::UniaxialConcrete01, {-3e7, -0.002, -2e7, -0.006}));
     model.SetMatAnal(3, Uniaxial(MatModel::UniaxialViscous, {1e5, 0.5}));
     for (int n = 1; n <= 3; ++n) {
+        Data::CMatAnal material = model.MatAnal(n);
+        material.SetE({});
+        model.SetMatAnal(n, material);
         model.SetSection(n, Data::CSection(L"", L"EXP%0.01%2E-4%1E-4%3E-6", Generic(n)));
     }
     const Lines sections = Write(model).Named("section");
     ASSERT_EQ(sections.size(), 3U);
-    EXPECT_EQ(sections[0], "Elastic 1 2e+11 0.01 0.0001 0.0002 1e+11 3e-06");
+    EXPECT_EQ(sections[0], "Elastic 1 2e+11 0.01 0.0001 0.0002 7.69231e+10 3e-06");
     EXPECT_EQ(sections[1].substr(0, 20), "Elastic 2 3e+10 0.01");
     EXPECT_EQ(sections[2].substr(0, 16), "Elastic 3 0 0.01");
     EXPECT_TRUE(HasNote(L"Section 3 is without stiffness"));
