@@ -26,62 +26,67 @@ std::string_view WithoutBlanks(std::string_view field) {
     return field.substr(first, field.find_last_not_of(' ') - first + 1);
 }
 
-/// Digits with nothing but blanks round them, as most fields are; false for anything else.
+/// Digits with nothing but blanks round them, as most fields are, or blanks alone, which are 0;
+/// false for anything else.
 bool ReadDigits(std::string_view field, int& value) {
     const char* at = field.data();
     const char* const end = at + field.size();
     while (at != end && *at == ' ') {
         ++at;
     }
-    const char* const first = at;
     int number = 0;
     for (; at != end && Text::IsDigit(*at); ++at) {
         number = number * 10 + (*at - '0');
     }
-    const bool hasDigits = at != first;
     while (at != end && *at == ' ') {
         ++at;
     }
     value = number;
-    return hasDigits && at == end;
+    return at == end;
 }
 
 enum class RealFault { None, NoNumber, TooLarge };
 
-/// Reads `text`; numbers too small for a double are 0.
-RealFault ParsePlain(std::string_view text, double& value) {
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (stop != end || error == std::errc::invalid_argument) {
-        return RealFault::NoNumber;
+/// What from_chars says of a whole text; numbers too small for a double are 0.
+RealFault FaultOf(std::string_view text, std::errc error, double& value) {
+    if (error == std::errc()) {
+        return std::isfinite(value) ? RealFault::None : RealFault::NoNumber;
     }
-    if (error == std::errc::result_out_of_range) {
-        const std::size_t exponent = text.find_first_of("eE");
-        const bool isSmall = exponent < text.size() - 1 && text[exponent + 1] == '-';
-        value = 0.0;
-        return isSmall ? RealFault::None : RealFault::TooLarge;
-    }
-    return std::isfinite(value) ? RealFault::None : RealFault::NoNumber;
+    const std::size_t exponent = text.find_first_of("eE");
+    const bool isSmall = exponent < text.size() - 1 && text[exponent + 1] == '-';
+    value = 0.0;
+    return isSmall ? RealFault::None : RealFault::TooLarge;
 }
 
-/// A number, also one with an exponent as Fortran writes it: 1.0d+5, or 1.0+5 without a letter.
-RealFault ParseReal(std::string_view text, double& value) {
-    text = Text::WithoutPlus(text);
-    const std::size_t mark = text.find_first_not_of("+-.0123456789");
-    const std::size_t sign = text.find_first_of("+-", 1);
-    const bool isFortran =
-        mark != std::string_view::npos && (text[mark] == 'd' || text[mark] == 'D');
-    const bool isBare = mark == std::string_view::npos && sign != std::string_view::npos;
-    if ((!isFortran && !isBare) || text.size() >= kLongestNumber) {
-        return ParsePlain(text, value);
+/// A number whose exponent is as Fortran writes it, 1.0d+5 or 1.0+5: `length` is where its mantissa
+/// ends.
+RealFault ParseFortran(std::string_view text, std::size_t length, double& value) {
+    const char mark = text[length];
+    const bool hasLetter = mark == 'd' || mark == 'D';
+    if ((!hasLetter && mark != '+' && mark != '-') || text.size() >= kLongestNumber ||
+        text.find_first_of("eE") != std::string_view::npos) {
+        return RealFault::NoNumber;
     }
-    const std::size_t length = isBare ? sign : mark;
     std::array<char, kLongestNumber> full{};
     char* end = std::copy_n(text.data(), length, full.data());
     *end++ = 'e';
-    end = std::copy(text.begin() + static_cast<std::ptrdiff_t>(isBare ? sign : mark + 1),
-                    text.end(), end);
-    return ParsePlain({full.data(), static_cast<std::size_t>(end - full.data())}, value);
+    const std::string_view exponent = text.substr(length + (hasLetter ? 1 : 0));
+    end = std::copy(exponent.begin() + (exponent.starts_with('+') ? 1 : 0), exponent.end(), end);
+    const auto [stop, error] = std::from_chars(full.data(), end, value);
+    const std::string_view whole(full.data(), static_cast<std::size_t>(end - full.data()));
+    return stop == end && error != std::errc::invalid_argument ? FaultOf(whole, error, value)
+                                                               : RealFault::NoNumber;
+}
+
+RealFault ParseReal(std::string_view text, double& value) {
+    text = Text::WithoutPlus(text);
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (error == std::errc::invalid_argument) {
+        return RealFault::NoNumber;
+    }
+    return stop == end ? FaultOf(text, error, value)
+                       : ParseFortran(text, static_cast<std::size_t>(stop - text.data()), value);
 }
 
 }  // namespace
@@ -96,8 +101,9 @@ std::string_view CDynaCard::Cut(int width) {
 
 int CDynaCard::IntIn(int low, int high, Fault outside) {
     int value = 0;
-    if (m_next + kNumberWidth <= m_line.size() &&
-        ReadDigits(m_line.substr(m_next, kNumberWidth), value) && value >= low && value <= high) {
+    const std::string_view columns =
+        m_next < m_line.size() ? m_line.substr(m_next, kNumberWidth) : std::string_view();
+    if (ReadDigits(columns, value) && value >= low && value <= high) {
         m_next += kNumberWidth;
         return value;
     }
