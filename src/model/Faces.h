@@ -21,10 +21,6 @@ using SolidFace = std::array<int, 4>;
 /// are two), then the sides round from the edge between nodes 1 and 2. Empty for other types.
 std::span<const SolidFace> FacesOf(ElementType type);
 
-/// The corners of a 2D element type, which has one face, or of a face (from 1) of a solid; all 0
-/// when there is no such face.
-SolidFace CornersOfFace(ElementType type, int face);
-
 /// Number of corner nodes of a 2D element type, which come first in its topology: 3 or 4; 0 for
 /// other types.
 int CornerCount(ElementType type);
