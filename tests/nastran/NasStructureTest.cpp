@@ -262,23 +262,57 @@ TEST_F(NasStructure, EveryModelReadsBack) {
     }
 }
 
-TEST_F(NasStructure, GoldenFrame) {
-    CVynData model = BeamModel();
+/// A portal: fixed and pinned base, a beam of an I with a release and offsets; self weight, a load
+/// along the beam, wind and a warm beam, and a combination of the cases.
+CVynData Portal() {
+    CVynData model = ModelOf({{0, 0, 0}, {0, 0, 3}, {4, 0, 3}, {4, 0, 0}});
     CTitles titles;
     titles.SetJobTitle(L"Portal");
     model.SetTitle(titles);
-    Data::CNode base = model.Node(1);
-    base.SetRestraint({true, true, true, true, true, true});
-    model.SetNode(1, base);
-    Data::CNodeLoad load;
-    load.SetValue(-1e4);
-    load.SetLoadedEntities({L"2", SelType::Node});
-    model.SetNodeLoad(1, load);
+    for (const int base : {1, 4}) {
+        Data::CNode node = model.Node(base);
+        node.SetRestraint({true, true, true, base == 1, base == 1, true});
+        model.SetNode(base, node);
+    }
+    model.SetSection(1, Data::CSection(L"Column", L"STD%R%400%200", Generic(1)));
+    model.SetSection(2, Data::CSection(L"Beam", L"STD%I%300%150%8%12", Generic(1)));
+    model.SetElem(1, Data::CElement(ElementType::Beam, {1, 2}, 1));
+    model.SetElem(2, Data::CElement(ElementType::Beam, {4, 3}, 1));
+    Data::CElement beam(ElementType::Beam, {2, 3}, 2);
+    Data::CElemConnect pin;
+    pin.SetReleased({false, false, false, false, true, true});
+    beam.SetConnect(2, pin);
+    beam.SetOffset(Data::COffset(0.2, -0.2, 0.0, 0.05));
+    model.SetElem(3, beam);
+
+    Data::CGravityLoad weight;
+    weight.SetValue({0, 0, -1});
+    model.SetGravityLoad(1, weight);
     Data::CBeamLoad along;
-    along.SetLoadedEntities({L"1", SelType::Element});
+    along.SetLoadedEntities({L"3", SelType::Element});
     along.SetPoint(1, {0.0, true, -2500.0});
     model.SetBeamLoad(1, along);
+    Data::CNodeLoad wind;
+    wind.SetLoadCase(2);
+    wind.SetDirection(Direction::X);
+    wind.SetValue(8000.0);
+    wind.SetLoadedEntities({L"2", SelType::Node});
+    model.SetNodeLoad(1, wind);
+    Data::CBeamThermalLoad warm;
+    warm.SetLoadCase(2);
+    warm.SetPoint(1, 0.0, 15.0);
+    warm.SetLoadedEntities({L"3", SelType::Element});
+    model.SetBeamThermalLoad(1, warm);
     model.SetLoadCaseTitle(1, Data::NamedEntity(L"Dead"));
+    model.SetLoadCaseTitle(2, Data::NamedEntity(L"Wind"));
+    model.SetAnalysisCase(1, CAnalysisCase(L"Dead", 1, L"L1"));
+    model.SetAnalysisCase(2, CAnalysisCase(L"Wind", 1, L"L2"));
+    model.SetCombinationCase(1, CCombinationCase(L"ULS", L"1.35A1 + 1.5A2"));
+    return model;
+}
+
+TEST_F(NasStructure, GoldenFrame) {
+    CVynData model = Portal();
     for (const bool large : {true, false}) {
         CNasFile file;
         const ScopedHost scope(host);
