@@ -211,6 +211,9 @@ void AppendTo(std::string& out, Write&& write) {
 }  // namespace
 
 char* AppendInt(char* out, long long value, int width, int digits) {
+    if (width <= 1 && digits <= 1) {
+        return std::to_chars(out, out + kMaxNumberText, value).ptr;
+    }
     char text[24];
     const char* from = text;
     const char* to = std::to_chars(text, text + sizeof text, value).ptr;

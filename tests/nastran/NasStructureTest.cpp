@@ -135,9 +135,9 @@ TEST_F(NasStructure, PlanesAndTheirProperties) {
 }
 
 TEST_F(NasStructure, TwentySeventhContinuation) {
-    std::vector<Vec3<double>> points;
-    for (int i = 0; i < 230; ++i) {
-        points.push_back({1.0 * i, 0, 0});
+    std::vector<Vec3<double>> points(230);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        points[i].x = static_cast<double>(i);
     }
     CVynData model = ModelOf(points);
     Data::CRigid rigid;
