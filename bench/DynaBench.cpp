@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <charconv>
-#include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <string_view>
@@ -145,7 +145,7 @@ void DynaWriter(benchmark::State& state) {
         plain = std::max(plain, Rate([&model] { WritePlain(model); }));
     }
     state.counters["extra MB"] = PeakMemory() - before;
-    std::remove(kFile);
+    std::filesystem::remove(kFile);
     state.counters["writer MB/s"] = writer / 1e6;
     state.counters["plain MB/s"] = plain / 1e6;
     state.counters["ratio"] = writer / plain;

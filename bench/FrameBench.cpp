@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
 #include <fstream>
 #include <memory>
 
@@ -22,7 +22,7 @@ constexpr const char* kFile = "/tmp/vyn_bench_frame.txt";
 int NumNode() {
     constexpr int kNodes = 200'000;
     const char* const asked = std::getenv("VYN_BENCH_NODES");
-    return asked != nullptr ? std::atoi(asked) : kNodes;
+    return asked != nullptr ? static_cast<int>(std::strtol(asked, nullptr, 10)) : kNodes;
 }
 
 /// A frame of so many nodes; every beam has a uniform and a point load.
@@ -70,7 +70,7 @@ void FrameWriter(benchmark::State& state) {
     state.counters["MB"] = SizeOfFile() / 1e6;
     state.counters["MB/s"] = largeRate / 1e6;
     state.counters["MB/s at a quarter"] = smallRate / 1e6;
-    std::remove(kFile);
+    std::filesystem::remove(kFile);
 }
 
 BENCHMARK(FrameWriter<COpenseesFile>)->Iterations(3)->Unit(benchmark::kMillisecond);

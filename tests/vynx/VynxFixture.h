@@ -24,10 +24,9 @@ class VynxTest : public ::testing::Test {
 protected:
     int Run(std::vector<std::string> words) {
         words.insert(words.begin(), "vynx");
-        std::vector<const char*> arguments;
-        for (const std::string& word : words) {
-            arguments.push_back(word.c_str());
-        }
+        std::vector<const char*> arguments(words.size());
+        std::transform(words.begin(), words.end(), arguments.begin(),
+                       [](const std::string& word) { return word.c_str(); });
         std::ostringstream out;
         std::ostringstream err;
         std::streambuf* const formerOut = std::cout.rdbuf(out.rdbuf());
