@@ -20,10 +20,10 @@ TEST(ExportOption, HostTable) {
     const CExportOption options;
     ASSERT_EQ(options.NumOption(), 5);
     for (int i = 0; i < 5; ++i) {
-        const FileSpec spec = options.Option(i);
-        EXPECT_EQ(spec.description, kRows[i].description);
-        EXPECT_EQ(spec.extension, kRows[i].extension);
-        EXPECT_EQ(spec.command, kRows[i].command);
+        const FileSpec row = options.Option(i);
+        EXPECT_EQ(row.description, kRows[i].description);
+        EXPECT_EQ(row.extension, kRows[i].extension);
+        EXPECT_EQ(row.command, kRows[i].command);
     }
 }
 

@@ -34,12 +34,12 @@ std::string Ids(bool readable) {
 /// runs.
 class FormatOptions {
 public:
-    using Specs = std::vector<OptionSpec> Format::*;
+    using OptionList = std::vector<OptionSpec> Format::*;
 
-    void AddTo(CLI::App& command, Specs specs) {
+    void AddTo(CLI::App& command, OptionList options) {
         for (const Format& format : Formats()) {
-            for (const OptionSpec& spec : format.*specs) {
-                Add(command, format, spec);
+            for (const OptionSpec& declared : format.*options) {
+                Add(command, format, declared);
             }
         }
     }
@@ -54,22 +54,22 @@ public:
     }
 
 private:
-    void Add(CLI::App& command, const Format& format, const OptionSpec& spec) {
-        const std::string name(spec.name);
-        std::string help = std::string(format.id) + ": " + std::string(spec.help);
-        if (!spec.fallback.empty()) {
-            help += " (" + std::string(spec.fallback) + ")";
+    void Add(CLI::App& command, const Format& format, const OptionSpec& declared) {
+        const std::string name(declared.name);
+        std::string help = std::string(format.id) + ": " + std::string(declared.help);
+        if (!declared.fallback.empty()) {
+            help += " (" + std::string(declared.fallback) + ")";
         }
         const auto known = m_options.find(name);
         if (known != m_options.end()) {
             known->second->description(known->second->get_description() + "; " + help);
             return;
         }
-        CLI::Option* option = spec.kind == OptionKind::Flag
+        CLI::Option* option = declared.kind == OptionKind::Flag
                                   ? command.add_flag("--" + name)->description(help)
                                   : command.add_option("--" + name, m_texts[name], help);
-        if (spec.kind != OptionKind::Flag) {
-            option->type_name(ValueName(spec));
+        if (declared.kind != OptionKind::Flag) {
+            option->type_name(ValueName(declared));
         }
         option->group("Options of formats");
         m_texts.try_emplace(name);
