@@ -183,7 +183,8 @@ TEST_F(VynxTest, TheLongestExtensionSaysTheFormat) {
 TEST_F(VynxTest, AllWritesWhatTheModelCanFeed) {
     ASSERT_EQ(Run({"export", Footbridge(), "--to", "all", "-o", Path("all")}), kDone) << m_err;
     for (const Format& format : Formats()) {
-        if (format.write != nullptr) {
+        const std::string skipped = std::string(format.id) + ": skipped, ";
+        if (format.write != nullptr && m_out.find(skipped) == std::string::npos) {
             const std::string stem = "all/footbridge";
             EXPECT_TRUE(format.writesFolder
                             ? !fs::is_empty(Path(stem))

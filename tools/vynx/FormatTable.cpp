@@ -34,7 +34,8 @@ const Format* FormatOf(const std::filesystem::path& file, WillDo&& willDo) {
 
 const std::vector<Format>& Formats() {
     static const std::vector<Format> kFormats{DampingFormat(), SqlFormat(),      NastranFormat(),
-                                              QuorlFormat(),   DocumentFormat(), KeywordFormat()};
+                                              QuorlFormat(),   DocumentFormat(), KeywordFormat(),
+                                              LegacyFormat(),  ViewFormat()};
     return kFormats;
 }
 

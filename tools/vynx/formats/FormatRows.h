@@ -10,6 +10,8 @@ namespace Vynx {
 Format DampingFormat();
 Format DocumentFormat();
 Format KeywordFormat();
+Format ViewFormat();
+Format LegacyFormat();
 Format SqlFormat();
 Format NastranFormat();
 Format QuorlFormat();
