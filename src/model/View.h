@@ -6,6 +6,10 @@
 #include "model/EntList.h"
 #include "model/Entity.h"
 
+namespace Tevra {
+class CModelData;
+}
+
 namespace Tevra::Data {
 
 /// Reference to one kind of data that an output view shows, for example "node displacements".
@@ -15,6 +19,8 @@ public:
     explicit CDataRef(std::wstring kind) : m_kind(std::move(kind)) {}
     /// Name of the provider of the data.
     const std::wstring& Kind() const { return m_kind; }
+    /// What the data are, for a person; for kinds that only the host knows, their name.
+    std::wstring DataStr(const CModelData& model) const;
     bool operator==(const CDataRef&) const = default;
 
 private:

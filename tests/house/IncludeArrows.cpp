@@ -31,7 +31,8 @@ constexpr std::array kRooms = {
     Room{"sap", "io model platform"},
     Room{"legacy", "io model platform"},
     Room{"pile", "io model platform platform/quorl"},
-    Room{"output", "io model platform"},
+    Room{"output/engine", "io model platform"},
+    Room{"output", "io model platform output/engine"},
     Room{"document", "model platform"},
 };
 

@@ -32,7 +32,7 @@ TEST(IncludeArrows, FilesBelongToRooms) {
     EXPECT_EQ(RoomOf("src/io/StreamFile.cpp"), "io");
     EXPECT_EQ(RoomOf("src/platform/ui/MessageBox.h"), "platform");
     EXPECT_EQ(RoomOf("src/platform/quorl/Record.h"), "platform/quorl");
-    EXPECT_EQ(RoomOf("src/output/engine/Task.cpp"), "output");
+    EXPECT_EQ(RoomOf("src/output/engine/Task.cpp"), "output/engine");
     EXPECT_EQ(RoomOf("tools/vynx/main.cpp"), "tools");
     EXPECT_EQ(RoomOf("src/iona/StreamFile.cpp"), "");
     EXPECT_EQ(RoomOf("src/io.h"), "");

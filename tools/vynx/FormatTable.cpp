@@ -37,7 +37,8 @@ const Format* FormatOf(const std::filesystem::path& file, WillDo&& willDo) {
 const std::vector<Format>& Formats() {
     static const std::vector<Format> kFormats{DampingFormat(), SqlFormat(),      NastranFormat(),
                                               LsDynaFormat(),  OpenseesFormat(), Sap2000Format(),
-                                              QuorlFormat(),   DocumentFormat(), KeywordFormat()};
+                                              QuorlFormat(),   DocumentFormat(), KeywordFormat(),
+                                              LegacyFormat(),  ViewFormat()};
     return kFormats;
 }
 

@@ -11,6 +11,8 @@ Format DampingFormat();
 Format DocumentFormat();
 Format KeywordFormat();
 Format LsDynaFormat();
+Format ViewFormat();
+Format LegacyFormat();
 Format SqlFormat();
 Format NastranFormat();
 Format OpenseesFormat();

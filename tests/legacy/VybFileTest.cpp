@@ -1,0 +1,521 @@
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+
+#include "legacy/VybFile.h"
+#include "model/VynData.h"
+#include "platform/text/HostPath.h"
+#include "platform/ui/RecordingHost.h"
+#include "support/TempFolder.h"
+#include "support/TestPaths.h"
+#include "support/VybWriter.h"
+
+namespace Tevra {
+namespace {
+
+using TestSupport::SmallVyb;
+using TestSupport::VybFields;
+using TestSupport::VybWriter;
+using Texts = std::vector<std::wstring>;
+
+const Texts kNotVyn{L"Not a VYN file"};
+const Texts kNotVersion6{L"This is not a VYN 6 file"};
+const Texts kDamaged{L"Errors encountered while reading file"};
+
+Data::COffset Offset(float x1, float x2, float y, float z) {
+    return {static_cast<double>(x1), static_cast<double>(x2), static_cast<double>(y),
+            static_cast<double>(z)};
+}
+
+/// Whether nothing but zeros follows up to the end of the block.
+bool IsPadding(const std::string& bytes, std::size_t i) {
+    constexpr std::size_t kBlock = 512;
+    const std::size_t end = std::min(bytes.size(), (i / kBlock + 1) * kBlock);
+    return bytes.find_first_not_of('\0', i) >= end;
+}
+
+class VybFileTest : public testing::Test {
+protected:
+    std::wstring Path() const { return Text::FromPath(m_folder.Path() / "model.vyb"); }
+    bool ReadBytes(const std::string& bytes, bool swop = false) {
+        std::ofstream(m_folder.Path() / "model.vyb", std::ios::binary) << bytes;
+        m_host.events.clear();
+        m_messages.clear();
+        CVybFile reader(m_model);
+        reader.SetSwop(swop);
+        return reader.OpenRead(Path(), m_messages);
+    }
+    bool Read(const VybWriter& file) { return ReadBytes(file.Bytes()); }
+    /// A file with the records of one kind, read into an empty model.
+    bool ReadRecords(int entry, const std::vector<VybFields>& records) {
+        VybWriter file;
+        for (const VybFields& record : records) {
+            file.Add(entry, record);
+        }
+        m_model = CVynData();
+        return Read(file);
+    }
+
+    TestSupport::TempFolder m_folder;
+    RecordingHost m_host;
+    ScopedHost m_scope{m_host};
+    CVynData m_model;
+    std::wstring m_messages;
+};
+
+TEST_F(VybFileTest, Settings) {
+    ASSERT_TRUE(Read(SmallVyb()));
+    EXPECT_TRUE(m_host.events.empty());
+    EXPECT_EQ(m_model.StructType(), 5);
+    EXPECT_EQ(m_model.GlobalRestraint(), Vbool6(false, true, false, true, false, false));
+    EXPECT_EQ(m_model.MassOption(), 1);
+    EXPECT_TRUE(m_model.AdditionalMass());
+    EXPECT_EQ(m_model.MassCase().Description(), L"L2");
+    EXPECT_EQ(m_model.MassDirection(), 3);
+    EXPECT_EQ(m_model.MassScale(), 0.5);
+    EXPECT_EQ(m_model.Units().UnitString(UnitKind::Force), L"kN");
+    EXPECT_EQ(m_model.Units().UnitString(UnitKind::Length), L"mm");
+    EXPECT_EQ(m_model.Units().UnitString(UnitKind::Mass), L"t");
+    EXPECT_EQ(m_model.Units().UnitString(UnitKind::Displacement), L"mm");
+    EXPECT_EQ(m_model.Units().UnitString(UnitKind::Stress), L"kN/mm\u00B2");
+}
+
+TEST_F(VybFileTest, CodesOfTheHeader) {
+    struct Case {
+        int legacyStruct, structType, legacyMass, massOption, unitFlag;
+        const wchar_t* force;
+    };
+    for (const Case& c :
+         {Case{0, 0, 0, 7, 0, L"N"}, Case{1, 3, 1, 0, 10, L"N"}, Case{2, 5, 2, 2, -20, L"N"},
+          Case{3, 4, 3, 1, 11, L"kN"}, Case{4, 0, 4, 7, -1, L"kN"}, Case{-1, 0, -1, 7, 1, L"kN"}}) {
+        VybWriter file;
+        file.structType = c.legacyStruct;
+        file.massOption = c.legacyMass;
+        file.unitFlag = c.unitFlag;
+        file.units = "m    kN   kg   ";
+        m_model.SetMassOption(7);
+        ASSERT_TRUE(Read(file));
+        EXPECT_EQ(m_model.StructType(), c.structType);
+        EXPECT_EQ(m_model.MassOption(), c.massOption);
+        EXPECT_EQ(m_model.Units().UnitString(UnitKind::Force), c.force);
+        EXPECT_FALSE(m_model.AdditionalMass());
+    }
+}
+
+TEST_F(VybFileTest, PropertiesAndLists) {
+    ASSERT_TRUE(Read(SmallVyb()));
+    const Data::CAxis& axis = m_model.Axis(4);
+    EXPECT_EQ(axis.Name(), L"Axis 4");
+    EXPECT_EQ(axis.TypeOf(), AxisType::Cylindrical);
+    EXPECT_EQ(axis.Origin(), (Vec3<double>{1, 2, 3}));
+    EXPECT_EQ(axis.XDirection(), (Vec3<double>{0, 1, 0}));
+    EXPECT_EQ(axis.XYPlane(), (Vec3<double>{0, 0, 1}));
+    const Data::CMatAnal& steel = m_model.MatAnal(1);
+    EXPECT_EQ(steel.Name(), L"Material 1");
+    EXPECT_EQ(steel.E(), static_cast<double>(2.05e11F));
+    EXPECT_DOUBLE_EQ(steel.G(), steel.E() / (2.0 * (1.0 + steel.Nu())));
+    EXPECT_EQ(steel.Density(), 7850.0);
+    EXPECT_EQ(m_model.MatAnal(2).G(), static_cast<double>(1.1e10F));
+    EXPECT_EQ(m_model.Section(1).Name(), L"Section 1");
+    EXPECT_EQ(m_model.Section(1).Description(), L"CAT%UB%UB457x191x67");
+    EXPECT_EQ(m_model.Section(2).Description(), L"STD%I%500%200%12%20");
+    EXPECT_EQ(m_model.Section(3).Description(), L"EXP%0.1%0.001%0.002%3e-04%0.5%0.6");
+    EXPECT_EQ(m_model.Section(3).MaterialAnalysis(), 2);
+    EXPECT_DOUBLE_EQ(m_model.SectionProp(3, 0, 0.0, false).area, 0.1);
+    const Data::CMassProp& mass = m_model.MassProp(3);
+    EXPECT_EQ(mass.Name(), L"Mass prop. 3");
+    EXPECT_EQ(mass.Mass(), 1250.0);
+    EXPECT_EQ(mass.Inertia().zz, 3.0);
+    EXPECT_EQ(mass.Inertia().zx, static_cast<double>(0.3F));
+    const Data::CProp2D& shell = m_model.Prop2D(1);
+    EXPECT_EQ(shell.Name(), L"2D prop. 1");
+    EXPECT_EQ(shell.Type(), Prop2DType::Shell);
+    EXPECT_EQ(shell.MaterialAnalysis(), 2);
+    EXPECT_EQ(shell.Thickness(), 0.25);
+    const Data::CRigid& rigid = m_model.Rigid(1);
+    EXPECT_EQ(rigid.PrimaryNode(), 6);
+    EXPECT_EQ(rigid.TypeOf(), 2101);
+    EXPECT_EQ(rigid.Nodes(), CEntList(L"1 4 ", SelType::Node));
+}
+
+TEST_F(VybFileTest, SectionTexts) {
+    struct Case {
+        int shape;
+        const char* stored;
+        const wchar_t* description;
+    };
+    const Case cases[] = {{17, "ABCxx6", L"STD%CHS%%%6"},
+                          {16, "ab", L"STD%C%"},
+                          {2, "UCxx", L"CAT%UC%UCxx"},
+                          {22, "STD%R%1%2", L"STD%R%1%2"},
+                          {50, "HD260x54", L"CAT%HD%HD260x54"},
+                          {51, "any", L"any"},
+                          {-1, "any", L"any"},
+                          {0, "gone", L"EXP%0%0%0%0%0%0"},
+                          {35, "W\tx\x01\xE9  ", L"CAT%W%W x \u00E9"}};
+    for (const Case& c : cases) {
+        ASSERT_TRUE(ReadRecords(
+            4, {VybFields{9, 1, c.shape}.Text(c.stored, 32).Reals({0, 0, 0, 0, 0, 0})}));
+        EXPECT_EQ(m_model.Section(9).Description(), c.description);
+    }
+}
+
+TEST_F(VybFileTest, ListTexts) {
+    struct Case {
+        VybFields items;
+        const wchar_t* text;
+    };
+    const Case cases[] = {{{2, 0, 0, 3, 0, 12}, L"3 12 "},
+                          {{1, 2, 1, 5, 0, 3, 0, 4}, L"G5 NOT  (3 4 )"},
+                          {{2, 2, 0, 1, 0, 2, 2, 3, 2, 4}, L"1 2 NOT  (P3 4 )"},
+                          {{0, 1, 1, 9}, L"NOT G9 "},
+                          {{2, 0, 1, 5, 0, 3}, L"3 G5 "},
+                          {{1, 1, 2, 5, 0, 3}, L"P5 NOT  (3 )"},
+                          {{0, 0}, L""}};
+    for (const Case& c : cases) {
+        VybFields list{6, 2};
+        for (const auto& field : c.items.All()) {
+            list.Add(field);
+        }
+        VybWriter file;
+        file.Add(1, list.PadTo(176));
+        file.Add(11, VybFields{1, 6}.Reals({0, 0, -1}));
+        m_model = CVynData();
+        ASSERT_TRUE(Read(file));
+        EXPECT_EQ(m_model.GravityLoad(1).LoadedEntities(), CEntList(c.text, SelType::Element));
+        EXPECT_TRUE(m_model.GravityLoad(1).LoadedEntities().IsValid());
+    }
+}
+
+TEST_F(VybFileTest, SpringsAreSplit) {
+    ASSERT_TRUE(Read(SmallVyb()));
+    EXPECT_EQ(m_model.NumSpringProp(), 3);
+    const Data::CSpringProp& moved = m_model.SpringProp(2);
+    EXPECT_EQ(moved.Name(), L"Spring prop. 2 (Tran)");
+    EXPECT_EQ(moved.Stiffnesses(), (std::array<double, 6>{1e6, 2e6, 3e6, 0, 0, 0}));
+    const Data::CSpringProp& turned = m_model.SpringProp(6);
+    EXPECT_EQ(turned.Name(), L"Spring prop. 2 (Rotn)");
+    EXPECT_EQ(turned.Stiffnesses(), (std::array<double, 6>{0, 0, 0, 4e5, 0, 0}));
+    EXPECT_EQ(m_model.SpringProp(5).Name(), L"Spring prop. 5");
+    EXPECT_EQ(m_model.SpringProp(5).Axis(), 4);
+    // The element and the node that use it have a second element for the rotations.
+    EXPECT_EQ(m_model.NumElem(), 7);
+    EXPECT_EQ(m_model.Elem(5).Property(), 2);
+    EXPECT_EQ(m_model.Elem(9).Property(), 6);
+    EXPECT_EQ(m_model.Elem(9).Topo(), (std::vector{4, 6}));
+    EXPECT_EQ(m_model.Elem(10).Property(), 6);
+    EXPECT_EQ(m_model.Elem(10).Topo(), (std::vector{3}));
+    EXPECT_EQ(m_model.Elem(10).Type(), ElementType::Spring);
+    EXPECT_EQ(m_model.Node(3).SpringProperty(), 2);
+}
+
+TEST_F(VybFileTest, NodesAndElements) {
+    ASSERT_TRUE(Read(SmallVyb()));
+    EXPECT_EQ(m_model.NumNode(), 5);
+    const Data::CNode& node = m_model.Node(4);
+    EXPECT_EQ(node.Position(), (Vec3<double>{6, 5, 4.5}));
+    EXPECT_EQ(node.Axis(), 4);
+    EXPECT_EQ(node.Restraint(), Vbool6(true, true, true, false, false, false));
+    EXPECT_EQ(m_model.Node(2).MassProperty(), 3);
+    const Data::CElement& beam = m_model.Elem(1);
+    EXPECT_EQ(beam.Type(), ElementType::Beam);
+    EXPECT_EQ(beam.Property(), 2);
+    EXPECT_EQ(beam.Group(), 1);
+    EXPECT_EQ(beam.OrientationAngle(), 30.0);
+    EXPECT_TRUE(beam.Connect(1).IsFixed());
+    EXPECT_EQ(beam.Connect(2).Released(), Vbool6(false, false, false, false, true, true));
+    EXPECT_EQ(beam.Offset(), Offset(0.1F, -0.2F, 0.3F, 0.4F));
+    EXPECT_TRUE(m_model.Elem(2).IsDummy());
+    EXPECT_EQ(m_model.Elem(2).OrientationNode(), 6);
+    EXPECT_EQ(m_model.Elem(3).Topo(), (std::vector{2, 3, 4, 6}));
+    EXPECT_EQ(m_model.Elem(8).Type(), ElementType::Tie);
+}
+
+TEST_F(VybFileTest, KindsOfElementsPropertiesAndConstraints) {
+    constexpr int kTypes[] = {2, 1, 21, 20, 3, 5, 7, 6, 8, 9, 10, 19};
+    for (int kind = 1; kind <= 12; ++kind) {
+        const auto type = static_cast<ElementType>(kTypes[kind - 1]);
+        const int count = InfoOf(type).minNodes;
+        VybFields record{1, kind, 1, 0, 0};
+        record.Reals({0}).Ints({0, 0}).Reals({0, 0, 0, 0}).Ints({0, count, 1, 2, 3, 4, 5, 6, 7, 8});
+        ASSERT_TRUE(ReadRecords(10, {record})) << kind;
+        EXPECT_EQ(m_model.Elem(1).Type(), type);
+        EXPECT_EQ(m_model.Elem(1).NumTopo(), count);
+    }
+    constexpr int kRigids[] = {4095, 1911, 2101, 856, 1411, 53, 848, 1283};
+    for (int kind = 1; kind <= 8; ++kind) {
+        ASSERT_TRUE(ReadRecords(8, {VybFields{3, 1, kind, 2}}));
+        EXPECT_EQ(m_model.Rigid(3).TypeOf(), kRigids[kind - 1]);
+        EXPECT_EQ(m_model.Rigid(3).Nodes().Text(), L"list 2");  // not in the file
+    }
+    constexpr int kProps[] = {1, 2, 3, 5, 6, 4};
+    for (int kind = 1; kind <= 6; ++kind) {
+        ASSERT_TRUE(ReadRecords(7, {VybFields{3, kind, 0, 0, 0.1F}}));
+        EXPECT_EQ(static_cast<int>(m_model.Prop2D(3).Type()), kProps[kind - 1]);
+    }
+}
+
+TEST_F(VybFileTest, Loads) {
+    ASSERT_TRUE(Read(SmallVyb()));
+    EXPECT_EQ(m_model.GravityLoad(1).LoadedEntities().Text(), L"all");
+    EXPECT_EQ(m_model.NodeLoad(1).LoadCase(), 2);
+    EXPECT_EQ(m_model.NodeLoad(1).GetDirection(), Direction::Z);
+    EXPECT_EQ(m_model.NodeLoad(1).Value(), -1e4);
+    EXPECT_EQ(m_model.Settlement(1).Axis(), -1);
+    EXPECT_EQ(m_model.Settlement(1).LoadedEntities(), CEntList(L"2 ", SelType::Node));
+    const Data::CBeamLoad& patch = m_model.BeamLoad(1);
+    EXPECT_EQ(patch.TypeOf(), BeamLoadType::Patch);
+    EXPECT_TRUE(patch.IsProjected());
+    EXPECT_EQ(patch.Point(2), (Data::LoadPoint{0.75, true, -6}));
+    EXPECT_EQ(patch.LoadedEntities(), CEntList(L"G1 NOT  (P3 4 )", SelType::Element));
+    EXPECT_EQ(m_model.BeamLoad(2).TypeOf(), BeamLoadType::Uniform);
+    EXPECT_EQ(m_model.BeamLoad(2).Value(2), -5.0);
+    const Data::CAxialLoad& prestress = m_model.AxialLoad(1);
+    EXPECT_EQ(prestress.TypeOf(), AxialLoadType::Force);
+    EXPECT_EQ(prestress.Value(), 8e5);
+    EXPECT_EQ(prestress.ZOffset(), static_cast<double>(-0.15F));
+    EXPECT_EQ(m_model.FaceLoad(1).Values(), (std::array<double, 4>{1, 2, 3, 4}));
+    EXPECT_EQ(m_model.FaceLoad(1).Axis(), -1);
+    const Data::CBeamThermalLoad& gradient = m_model.BeamThermalLoad(1);
+    EXPECT_EQ(gradient.TypeOf(), BeamThermalType::GradientY);
+    EXPECT_EQ((gradient.Value(2) - gradient.Value(1)) / (gradient.Pos(2) - gradient.Pos(1)), 12.0);
+    EXPECT_EQ(gradient.UniformPart(), 5.0);
+    EXPECT_EQ(m_model.FaceThermalLoad(1).Value(1), 7.0);
+    EXPECT_EQ(m_model.FaceThermalLoad(1).Value(2), -1.0);
+}
+
+TEST_F(VybFileTest, TrilinearLoads) {
+    ASSERT_TRUE(ReadRecords(14, {VybFields{1, 0, 0, 3, 5, 0, 0}.Reals({1, -5, 2, -6, 0, 0})}));
+    const Data::CBeamLoad& load = m_model.BeamLoad(1);
+    EXPECT_EQ(load.Point(1), (Data::LoadPoint{0, true, -5}));
+    EXPECT_EQ(load.Point(2), (Data::LoadPoint{1, false, -5}));
+    EXPECT_EQ(load.Point(3), (Data::LoadPoint{2, false, -6}));
+    EXPECT_EQ(load.Point(4), (Data::LoadPoint{1, true, -6}));
+}
+
+TEST_F(VybFileTest, CasesCombinationsAndResults) {
+    ASSERT_TRUE(Read(SmallVyb()));
+    EXPECT_EQ(m_model.NumLoadCaseTitle(), 3);
+    EXPECT_EQ(m_model.LoadCaseTitle(2).Name(), L"Wind \u00C4");
+    EXPECT_EQ(m_model.CombinationCase(4).Name(), L"Both");
+    EXPECT_EQ(m_model.CombinationCase(4).Desc().Description(), L"+1.000000A1-0.500000A3");
+    EXPECT_EQ(m_model.CombinationCase(5).Desc().Description(), L"+1.100000A1+0.100000A3");
+    EXPECT_EQ(m_model.NumAnalysisCase(), 2);
+    EXPECT_EQ(m_model.AnalysisCase(1).Name(), L"Static 1");
+    EXPECT_EQ(m_model.AnalysisCase(1).Desc().Description(), L"1.L1");
+    EXPECT_EQ(m_model.AnalysisCase(3).Name(), L"Modal P-delta 3");
+    EXPECT_EQ(m_model.AnalysisCase(3).Desc().Description(), L"M7 : P(1.L2)");
+    EXPECT_EQ(m_model.AnalysisTask(3).Solution(), SolutionType::ModalPDelta);
+    EXPECT_DOUBLE_EQ(m_model.Mass(AnalysisRef(1)), 12500.0);  // 12.5 t
+    EXPECT_DOUBLE_EQ(m_model.CentreOfMass(AnalysisRef(1)).y, 2.5);
+    EXPECT_TRUE(m_model.IsLockedByResults());
+    EXPECT_FALSE(m_model.AnalysisCaseHasResults(3));
+}
+
+TEST_F(VybFileTest, KindsOfSolutions) {
+    const wchar_t* const kTexts[] = {L"1.L2", L"1.L2 : P(1.L2)", L"M9", L"M9 : P(1.L5)", L"M9"};
+    for (int kind = 0; kind <= 5; ++kind) {
+        VybWriter file;
+        file.numLoadCase = 2;
+        file.resultsIndicator = 1'000'001;
+        file.SetResult(2, -kind, VybFields{5, 9, 0}.Reals({0, 0, 0, 0}));
+        file.entries[22] = -(kind * 1'000'000 + 4);
+        m_model = CVynData();
+        ASSERT_TRUE(Read(file));
+        const int solved = std::max(kind, 1);
+        EXPECT_EQ(m_model.AnalysisCase(2).Desc().Description(), kTexts[solved - 1]);
+        EXPECT_EQ(static_cast<int>(m_model.AnalysisTask(2).Solution()), solved);
+        EXPECT_TRUE(m_model.AnalysisCase(2).Desc().IsValid());
+        file.resultsIndicator = 999'999;
+        m_model = CVynData();
+        ASSERT_TRUE(Read(file));
+        EXPECT_EQ(m_model.NumAnalysisCase(), 0);
+        EXPECT_FALSE(m_model.IsLockedByResults());
+    }
+}
+
+TEST_F(VybFileTest, ByteOrder) {
+    ASSERT_TRUE(Read(SmallVyb()));
+    const CVynData expected = m_model;
+    m_model = CVynData();
+    EXPECT_TRUE(ReadBytes(SmallVyb().Bytes(true), true));
+    EXPECT_TRUE(m_model == expected);
+    EXPECT_FALSE(ReadBytes(SmallVyb().Bytes(true), false));
+    EXPECT_EQ(m_host.Messages(), kDamaged);
+    EXPECT_TRUE(m_model == CVynData());
+    EXPECT_FALSE(ReadBytes(SmallVyb().Bytes(false), true));
+}
+
+TEST_F(VybFileTest, LongerRecordsAreSkippedOver) {
+    VybWriter file;
+    for (const int number : {3, 5}) {
+        file.Add(3, VybFields{number}.Reals({1e9F, 0.3F, 1, 2, 3}).Ints({-1, -1, -1}));
+    }
+    EXPECT_TRUE(Read(file));
+    EXPECT_EQ(m_model.NumMatAnal(), 2);
+    EXPECT_EQ(m_model.MatAnal(5).Density(), 1.0);
+}
+
+/// Every way in which a file is refused: the box that it gives, and an empty model.
+TEST_F(VybFileTest, Refused) {
+    using Change = std::function<void(VybWriter&)>;
+    struct Case {
+        const char* what;
+        Change change;
+        Texts messages = kDamaged;
+    };
+    static constexpr int kMost = 0x7FFFFFFF;
+    const Case cases[] = {
+        {"version", [](VybWriter& f) { f.version = "00005"; }, kNotVersion6},
+        {"no directory", [](VybWriter& f) { f.numDirectory = 0; }},
+        {"long directory", [](VybWriter& f) { f.numDirectory = kMost; }},
+        {"cases", [](VybWriter& f) { f.numLoadCase = kMost; }},
+        {"negative cases", [](VybWriter& f) { f.numLoadCase = -1; }},
+        {"mass direction", [](VybWriter& f) { f.massDirection = 4; }},
+        {"mass case", [](VybWriter& f) { f.massCase = -4; }},
+        {"count", [](VybWriter& f) { f.counts[9] = kMost; }},
+        {"negative count", [](VybWriter& f) { f.counts[9] = -1; }},
+        {"length", [](VybWriter& f) { f.lengths[9] = kMost; }},
+        {"short record", [](VybWriter& f) { f.lengths[9] = 28; }},
+        {"no length", [](VybWriter& f) { f.lengths[10] = 0; }},
+        {"place outside", [](VybWriter& f) { f.entries[5] = 999'999; }},
+        {"titles outside", [](VybWriter& f) { f.entries[17] = 500; }},
+        {"results outside", [](VybWriter& f) { f.entries[21] = 1'000'500; }},
+        {"solution", [](VybWriter& f) { f.entries[21] = 6'000'004; }},
+        {"number", [](VybWriter& f) { f.Add(9, VybFields{0}.PadTo(32)); }},
+        {"not finite", [](VybWriter& f) { f.Add(9, VybFields{1}.Reals({INFINITY}).PadTo(32)); }},
+        {"element kind",
+         [](VybWriter& f) {
+             f.Add(10, VybFields{1, 13}.PadTo(88));
+         }},
+        {"node count",
+         [](VybWriter& f) {
+             f.Add(10, VybFields{1, 1}.PadTo(88));
+         }},
+        {"list items",
+         [](VybWriter& f) {
+             f.Add(1, VybFields{1, 1, 11, 10}.PadTo(176));
+         }},
+        {"list prefix",
+         [](VybWriter& f) {
+             f.Add(1, VybFields{1, 1, 1, 0, 3, 1}.PadTo(176));
+         }},
+        {"mixed list",
+         [](VybWriter& f) {
+             f.Add(1, VybFields{1, 2, 0, 2, 0, 1, 1, 2}.PadTo(176));
+         }},
+        {"direction",
+         [](VybWriter& f) {
+             f.Add(12, VybFields{1, 7, 0, 7, 1.0F});
+         }},
+        {"load case",
+         [](VybWriter& f) {
+             f.Add(12, VybFields{0, 7, 0, 1, 1.0F});
+         }},
+        {"spring number", [](VybWriter& f) {
+             f.Add(5, VybFields{kMost, 0}.Reals({1, 0, 0, 1, 0, 0}));
+         }}};
+    for (const Case& c : cases) {
+        VybWriter file = SmallVyb();
+        c.change(file);
+        m_model.SetStructType(4);
+        EXPECT_FALSE(Read(file)) << c.what;
+        EXPECT_EQ(m_host.Messages(), c.messages) << c.what;
+        EXPECT_TRUE(m_model == CVynData()) << c.what;
+        EXPECT_TRUE(m_messages.empty());
+    }
+}
+
+TEST_F(VybFileTest, ScatteredNumbersAreRefused) {
+    VybWriter file;
+    for (int i = 0; i < 600; ++i) {
+        file.Add(9, VybFields{1 + i * 100'000}.PadTo(32));
+    }
+    EXPECT_FALSE(Read(file));
+    EXPECT_EQ(m_host.Messages(), kDamaged);
+}
+
+TEST_F(VybFileTest, Truncated) {
+    const std::string bytes = SmallVyb().Bytes();
+    constexpr std::size_t kTexts = 50;
+    constexpr std::size_t kHeader = 1099;
+    for (std::size_t size = 0; size < bytes.size(); ++size) {
+        if (IsPadding(bytes, size)) {
+            continue;  // as the last size that cut something off
+        }
+        const bool read = ReadBytes(bytes.substr(0, size));
+        const Texts expected = size < kTexts ? Texts() : size < kHeader ? kNotVyn : kDamaged;
+        EXPECT_EQ(m_host.Messages(), read ? Texts() : expected) << size;
+        EXPECT_TRUE(read || m_model == CVynData()) << size;
+        EXPECT_FALSE(read && size < bytes.size() - 2 * 512) << size;
+    }
+}
+
+TEST_F(VybFileTest, EveryByteChanged) {
+    constexpr char kChanges[] = {'\x01', '\x80', '\xFF'};
+    const std::string bytes = SmallVyb().Bytes();
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        if (IsPadding(bytes, i)) {
+            continue;
+        }
+        std::string damaged = bytes;
+        damaged[i] = static_cast<char>(damaged[i] ^ kChanges[i % std::size(kChanges)]);
+        const bool read = ReadBytes(damaged);
+        EXPECT_EQ(m_host.events.size(), read ? 0U : 1U) << i;
+        EXPECT_TRUE(read || m_model == CVynData()) << i;
+        m_model = CVynData();
+    }
+}
+
+/// The files that others read are what the writer makes; with VYN_WRITE_EXAMPLES set they are
+/// written anew.
+TEST_F(VybFileTest, KeptFiles) {
+    const std::filesystem::path root = TestSupport::SourceDir();
+    const std::pair<const char*, bool> files[] = {{"examples/frame6.vyb", false},
+                                                  {"tests/fuzz/seeds/VybFuzz/small", false},
+                                                  {"tests/fuzz/seeds/VybFuzz/swapped", true}};
+    for (const auto& [name, swapped] : files) {
+        const std::string bytes = SmallVyb().Bytes(swapped);
+        if (std::getenv("VYN_WRITE_EXAMPLES") != nullptr) {  // NOLINT(concurrency-mt-unsafe)
+            std::ofstream(root / name, std::ios::binary) << bytes;
+        }
+        EXPECT_TRUE(TestSupport::ReadFile(root / name) == bytes) << name;
+    }
+}
+
+TEST_F(VybFileTest, AMissingFileLeavesTheModelAlone) {
+    m_model.SetNode(1, Data::CNode());
+    const CVynData before = m_model;
+    CVybFile reader(m_model);
+    const std::wstring line = L"<red>Error:          </red>Error\n\nNo such file or directory";
+    EXPECT_FALSE(reader.OpenRead(Path(), m_messages));
+    EXPECT_EQ(m_messages, line);
+    EXPECT_FALSE(reader.OpenRead(Path(), m_messages));
+    EXPECT_EQ(m_messages, line + L'\n' + line);
+    EXPECT_TRUE(m_model == before);
+    EXPECT_TRUE(m_host.events.empty());
+}
+
+TEST_F(VybFileTest, AHeldModelIsLeftAlone) {
+    m_model.SetNode(1, Data::CNode());
+    const CVynData before = m_model;
+    for (SyncObject* const held : {&m_model.ShareModelBusy(), &m_model.ShareResultsBusy()}) {
+        held->Lock();
+        EXPECT_FALSE(Read(SmallVyb()));
+        EXPECT_TRUE(m_model == before);
+        EXPECT_TRUE(m_host.events.empty() && m_messages.empty());
+        held->Unlock();
+        EXPECT_TRUE(ProbeLock(m_model.ShareModelBusy(), 0));
+        EXPECT_TRUE(ProbeLock(m_model.ShareResultsBusy(), 0));
+    }
+    EXPECT_FALSE(ReadBytes("00006"));
+    EXPECT_TRUE(ProbeLock(m_model.ShareModelBusy(), 0));
+    EXPECT_TRUE(m_model == CVynData());
+}
+
+}  // namespace
+}  // namespace Tevra
