@@ -7,7 +7,7 @@ FUZZ_SECONDS ?= 30
 BASE ?=
 LINT_MINUTES ?=
 
-.PHONY: help setup demo test bench format format-check lint fuzz install clean
+.PHONY: help setup demo test bench format format-check lint fuzz docs install clean
 
 help:
 	@echo 'make demo          build vynx, write the example models in every format to out/'
@@ -17,6 +17,7 @@ help:
 	@echo 'make format        lay out the sources as .clang-format says'
 	@echo 'make format-check  name the sources that are laid out otherwise'
 	@echo 'make lint          clang-tidy; BASE=<commit> for the files changed since'
+	@echo 'make docs          reference of the headers with Doxygen, to build/docs/html'
 	@echo 'make install       install libraries, headers and vynx under PREFIX=$(PREFIX)'
 	@echo 'make setup         install the packages that all this needs (Debian)'
 	@echo 'make clean         remove build/ and out/'
@@ -58,6 +59,10 @@ fuzz: setup
 	cmake --preset fuzz
 	cmake --build --preset fuzz
 	scripts/fuzz $(FUZZ_SECONDS)
+
+docs:
+	@scripts/setup doxygen
+	doxygen docs/Doxyfile
 
 install: setup
 	cmake --preset release

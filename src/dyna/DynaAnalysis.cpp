@@ -1,6 +1,7 @@
 #include "dyna/DynaAnalysis.h"
 
 #include "dyna/DynaOut.h"
+#include "io/ScopedPointer.h"
 #include "io/Text.h"
 #include "model/Util.h"
 #include "model/VynData.h"
@@ -53,12 +54,10 @@ bool CDynaAnalysis::Write() {
         return false;
     }
     DynaOut out(*m_stream);
-    m_out = &out;
+    const ScopedPointer valid(m_out, out);
     const bool isComplete = WriteSections();
     const bool isWritten = out.Flush();
     NoteFaults();
-    m_out = nullptr;
-    m_task = nullptr;
     if (isComplete && isWritten) {
         BuildReport();
     }

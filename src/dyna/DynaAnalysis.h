@@ -24,6 +24,7 @@ class DynaOut;
 struct CutElement;
 struct CutPlane;
 struct DynaLayout;
+struct DynaMaterialCard;
 struct LoadedFace;
 
 /// What a part of a keyword file is made from. The names of the codes are those of the report.
@@ -173,7 +174,8 @@ private:
     bool WriteMaterials();
     void WriteMaterialCell(std::string_view cell, const Data::CMatAnal& material, int number);
     bool WriteDesignMaterials();
-    void WriteElastic(int number, const std::wstring& name, const Data::CMatAnal& material);
+    void WriteMaterial(const DynaMaterialCard& card, const std::wstring& name,
+                       const Data::CMatAnal& material, int number);
     bool WriteBeamSections();
     void WriteBeamSection(int section, int part);
     bool WriteShapedSection(const Data::CSection& section, int part);
@@ -226,7 +228,7 @@ private:
 
     // The order of these members is the one that the host documents.
     int m_taskNumber = 0;
-    const CDynaTask* m_task = nullptr;  ///< valid within Write
+    const CDynaTask* m_task = nullptr;  ///< of the write that runs
     std::vector<PartRecord> m_parts;    ///< by part number - 1
     std::wstring m_report;
     bool m_indexFile = false;

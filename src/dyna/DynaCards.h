@@ -125,7 +125,6 @@ inline constexpr DynaLayout kComposite{
     {},
     {"PID(10I) ELFORM(10I) SHRF(10F) NLOC(10F)", "MID(10I) THICK(10F) B(10F) TMID(10I)"}};
 inline constexpr DynaLayout kSolidSection{"*SECTION_SOLID_TITLE", {}, {"SECID(10I) ELFORM(10I)"}};
-inline constexpr DynaLayout kElastic{"*MAT_ELASTIC", {}, {"MID(10I) RO(10F) E(10F) PR(10F)"}};
 inline constexpr DynaLayout kSpringElastic{"*MAT_SPRING_ELASTIC", {}, {"MID(10I) K(10F)"}};
 inline constexpr DynaLayout kLinearDiscreteBeam{
     "*MAT_LINEAR_ELASTIC_DISCRETE_BEAM",

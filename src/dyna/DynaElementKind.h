@@ -4,9 +4,6 @@
 
 namespace Tevra {
 
-/// Code of a link or rigid constraint that ties every freedom, arms of rotations included.
-inline constexpr int kAllLinked = 4095;
-
 /// What kind of part an element belongs to; `Undefined` for elements that are not written.
 inline DynaPart KindOf(const Data::CElement& element) {
     switch (InfoOf(element.Type()).property) {

@@ -5,6 +5,7 @@
 #include "dyna/DynaCards.h"
 #include "dyna/DynaElementKind.h"
 #include "dyna/DynaOut.h"
+#include "model/LinkKind.h"
 #include "model/Util.h"
 #include "model/VynData.h"
 

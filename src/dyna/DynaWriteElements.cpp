@@ -105,15 +105,15 @@ void CDynaAnalysis::NoteElements() {
         int count;
         const wchar_t* text;
     } notes[] = {
-        {m_counts.points, L" mass elements are not written: masses belong to nodes"},
-        {m_counts.spacers, L" spacers are not written"},
-        {m_counts.dummies, L" dummy elements are written like others"},
-        {m_counts.panels, L" elements of load panels are written as shells"},
-        {m_counts.sprungEnds, L" ends of beams on springs are written as fixed"},
+        {m_counts.points, L"Mass elements that are not written, as masses belong to nodes: "},
+        {m_counts.spacers, L"Spacers that are not written: "},
+        {m_counts.dummies, L"Dummy elements that are written like others: "},
+        {m_counts.panels, L"Elements of load panels that are written as shells: "},
+        {m_counts.sprungEnds, L"Ends of beams on springs that are written as fixed: "},
     };
     for (const auto& note : notes) {
         if (note.count > 0) {
-            AddNote(std::to_wstring(note.count) + note.text);
+            AddNote(note.text + std::to_wstring(note.count));
         }
     }
 }

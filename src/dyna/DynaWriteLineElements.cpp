@@ -7,6 +7,7 @@
 #include "dyna/DynaElementKind.h"
 #include "dyna/DynaElementLoop.h"
 #include "dyna/DynaOut.h"
+#include "model/LinkKind.h"
 #include "model/VynData.h"
 
 // Beams, springs, dampers, cables and links.

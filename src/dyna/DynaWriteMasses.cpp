@@ -10,39 +10,43 @@ namespace Tevra {
 
 using namespace DynaCards;
 
-bool CDynaAnalysis::WriteNodeSprings() {
-    if (!m_hasNodeProperties) {
-        return true;
+namespace {
+
+using PropertyOf = int (CVynData::*)(int node, int stage) const;
+
+/// Calls `writeOne` with each node that has a property of a kind, and the number of that.
+template <class WriteOne>
+void ForEachNodeWith(PropertyOf propertyOf, const CVynData& model, int stage, WriteOne writeOne) {
+    for (const int node : model.NodeTable().Numbers()) {
+        if (const int property = (model.*propertyOf)(node, stage); property != 0) {
+            writeOne(node, property);
+        }
     }
-    for (const int node : m_model->NodeTable().Numbers()) {
-        const int property = m_model->NodeSpringProperty(node, m_stage);
-        if (property == 0) {
-            continue;
-        }
-        if (!m_model->SpringPropExist(property)) {
-            Skip(L"Spring at node", node, L"its property does not exist");
-            continue;
-        }
-        WriteSpring(++m_elementNumber, FindPart(DynaPart::Spring, property),
-                    m_model->SpringProp(property).IsSimple(), {node, 0, 0});
+}
+
+}  // namespace
+
+bool CDynaAnalysis::WriteNodeSprings() {
+    if (m_hasNodeProperties) {
+        const auto write = [this](int node, int property) {
+            WriteSpring(++m_elementNumber, FindPart(DynaPart::Spring, property),
+                        m_model->SpringProp(property).IsSimple(), {node, 0, 0});
+        };
+        ForEachNodeWith(&CVynData::NodeSpringProperty, *m_model, m_stage, write);
     }
     return true;
 }
 
 bool CDynaAnalysis::WriteNodeMasses() {
-    if (!m_hasNodeProperties) {
-        return true;
-    }
-    for (const int node : m_model->NodeTable().Numbers()) {
-        const int property = m_model->NodeMassProperty(node, m_stage);
-        if (property == 0) {
-            continue;
-        }
-        if (!m_model->MassPropExist(property)) {
-            Skip(L"Mass at node", node, L"its property does not exist");
-            continue;
-        }
-        WriteNodeMass(node, m_model->MassProp(property));
+    if (m_hasNodeProperties) {
+        const auto write = [this](int node, int property) {
+            if (m_model->MassPropExist(property)) {
+                WriteNodeMass(node, m_model->MassProp(property));
+            } else {
+                Skip(L"Mass at node", node, L"its property does not exist");
+            }
+        };
+        ForEachNodeWith(&CVynData::NodeMassProperty, *m_model, m_stage, write);
     }
     return true;
 }
@@ -59,19 +63,12 @@ void CDynaAnalysis::WriteNodeMass(int node, const Data::CMassProp& mass) {
 }
 
 bool CDynaAnalysis::WriteNodeDampers() {
-    if (!m_hasNodeProperties) {
-        return true;
-    }
-    for (const int node : m_model->NodeTable().Numbers()) {
-        const int property = m_model->NodeDamperProperty(node, m_stage);
-        if (property == 0) {
-            continue;
-        }
-        if (!m_model->DamperPropExist(property)) {
-            Skip(L"Damper at node", node, L"its property does not exist");
-            continue;
-        }
-        WriteSpring(++m_elementNumber, FindPart(DynaPart::Damper, property), true, {node, 0, 0});
+    if (m_hasNodeProperties) {
+        const auto write = [this](int node, int property) {
+            WriteSpring(++m_elementNumber, FindPart(DynaPart::Damper, property), true,
+                        {node, 0, 0});
+        };
+        ForEachNodeWith(&CVynData::NodeDamperProperty, *m_model, m_stage, write);
     }
     return true;
 }

@@ -11,25 +11,24 @@
 
 namespace Tevra {
 
-namespace {
-
-constexpr double kRadians = 3.14159265358979323846 / 180.0;
-constexpr int kWidth = 10;
-
 /// The card of a material model. Each line lists its cells, ten columns wide:
 /// - `id` the number of the material,
 /// - `pK` value K of CMatAnal::Param, `eK` and `gK` moduli by direction,
-/// - `mK` parameter K of the model, degrees as radians with `rK`; what stands behind a `|` where
-/// the
-///   material has none, else 0,
+/// - `mK` parameter K of the model, degrees as radians with `rK`; where the material has none, what
+///   stands behind a `|`, else 0,
 /// - `cK` curve K of the model, 0 where there is none,
 /// - `nuba`, `nuca`, `nucb` Poisson's ratios as the target orders them, `shear` E / (2 (1 + nu)),
 /// - `_` a blank field; any number stands for itself, whole ones are integers.
-struct MaterialCard {
+struct DynaMaterialCard {
     MatModel model;
     std::string_view keyword;
     std::array<std::string_view, 8> lines;
 };
+
+namespace {
+
+constexpr double kRadians = 3.14159265358979323846 / 180.0;
+constexpr int kWidth = 10;
 
 using M = MatModel;
 
@@ -38,7 +37,7 @@ constexpr std::string_view kSixZeros = "0.0 0.0 0.0 0.0 0.0 0.0";
 constexpr std::string_view kSevenZeros = "0.0 0.0 0.0 0.0 0.0 0.0 0.0";
 constexpr std::string_view kEightZeros = "0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0";
 
-constexpr MaterialCard kCards[] = {
+constexpr DynaMaterialCard kCards[] = {
     {M::ElasticIsotropic, "*MAT_ELASTIC", {"id p2 p0 p1"}},
     {M::ElasticPlastic, "*MAT_PLASTIC_KINEMATIC", {"id p2 p0 p1 p7 p5 p6", "0.0 0.0 0.0 0"}},
     {M::ElasticOrthotropic,
@@ -81,8 +80,8 @@ constexpr MaterialCard kCards[] = {
     {M::SteelEC3, "*MAT_STEEL_EC3", {"id p2 p0 p1 p7", "c0 c1 c2 c3 c4", "_"}},
 };
 
-const MaterialCard* CardOf(MatModel model) {
-    for (const MaterialCard& card : kCards) {
+const DynaMaterialCard* CardOf(MatModel model) {
+    for (const DynaMaterialCard& card : kCards) {
         if (card.model == model) {
             return &card;
         }
@@ -180,33 +179,28 @@ void CDynaAnalysis::WriteMaterialCell(std::string_view cell, const Data::CMatAna
     }
 }
 
+void CDynaAnalysis::WriteMaterial(const DynaMaterialCard& card, const std::wstring& name,
+                                  const Data::CMatAnal& material, int number) {
+    m_out->Text().Append(card.keyword).EndLine();
+    m_out->NameComment(name);
+    for (const std::string_view line : card.lines) {
+        if (!line.empty()) {
+            ForEachCell(line,
+                        [&](std::string_view cell) { WriteMaterialCell(cell, material, number); });
+            m_out->EndLine(card.keyword, number);
+        }
+    }
+}
+
 /// Materials of other models have no card.
 bool CDynaAnalysis::WriteMaterials() {
     for (const int number : m_model->MatAnalTable().Numbers()) {
         const Data::CMatAnal& material = m_model->MatAnal(number);
-        const MaterialCard* const card = CardOf(material.Model());
-        if (card == nullptr) {
-            continue;
-        }
-        m_out->Text().Append(card->keyword).EndLine();
-        m_out->NameComment(material.Name());
-        for (const std::string_view line : card->lines) {
-            if (!line.empty()) {
-                ForEachCell(line, [&](std::string_view cell) {
-                    WriteMaterialCell(cell, material, number);
-                });
-                m_out->EndLine(card->keyword, number);
-            }
+        if (const DynaMaterialCard* const card = CardOf(material.Model()); card != nullptr) {
+            WriteMaterial(*card, material.Name(), material, number);
         }
     }
     return true;
-}
-
-void CDynaAnalysis::WriteElastic(int number, const std::wstring& name,
-                                 const Data::CMatAnal& material) {
-    m_out->Keyword(DynaCards::kElastic);
-    m_out->NameComment(name);
-    m_out->Line<DynaCards::kElastic>(number, material.Density(), material.E(), material.Nu());
 }
 
 bool CDynaAnalysis::WriteDesignMaterials() {
@@ -219,7 +213,8 @@ bool CDynaAnalysis::WriteDesignMaterials() {
             const auto found = m_designMaterials.find({family, grade});
             if (found != m_designMaterials.end()) {
                 const Data::CMatDesign& record = table.Get(grade);
-                WriteElastic(found->second, record.Name(), record.MatAnal());
+                WriteMaterial(*CardOf(M::ElasticIsotropic), record.Name(), record.MatAnal(),
+                              found->second);
             }
         }
     }

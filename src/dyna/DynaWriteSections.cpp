@@ -52,17 +52,6 @@ constexpr StandardSection kStandardSections[] = {
     {12, {SC::Cruciform, SC::None}, {{{1, 1.0, 2}, {2}, {0}, {3}, {}, {}}}},
 };
 
-const StandardSection* StandardOf(SectionClass shapeClass) {
-    for (const StandardSection& section : kStandardSections) {
-        for (const SectionClass known : section.classes) {
-            if (known != SC::None && known == shapeClass) {
-                return &section;
-            }
-        }
-    }
-    return nullptr;
-}
-
 std::wstring Shortened(const std::wstring& title) {
     constexpr std::wstring_view kDots = L"...";
     return title.size() > kLongestTitle
@@ -108,7 +97,8 @@ void CDynaAnalysis::WriteBeamSection(int section, int part) {
 /// for shapes that it does not know.
 bool CDynaAnalysis::WriteShapedSection(const Data::CSection& section, int part) {
     const Data::CSecGeom& geometry = section.Component(1).Geometry();
-    const StandardSection* const standard = StandardOf(geometry.ShapeClass());
+    const StandardSection* const standard =
+        Data::FindShape(kStandardSections, geometry.ShapeClass());
     if (standard == nullptr) {
         return false;
     }

@@ -15,7 +15,9 @@ using namespace DynaCards;
 namespace {
 
 constexpr int kDiscreteBeamFormulation = 6;
-/// Discrete beams must have some mass and inertia: 1 kg and 1 kg m2.
+/// Discrete beams must have some mass and inertia. 1 kg and 1 kg m2 weigh little in a structure and
+/// keep the time step of stiff springs, which falls with the root of the mass, near that of the
+/// rest.
 constexpr double kNominalDensity = 1.0;
 constexpr double kNominalVolume = 1.0;
 constexpr double kNominalInertia = 1.0;

@@ -43,7 +43,7 @@ public:
         char* const end = Room(kMaxNumberText);
         return UpTo(AppendGeneral(end, value));
     }
-    /// %#g
+    /// `%#g`
     RecordText& Padded(double value) {
         m_hasBadNumber = m_hasBadNumber || !std::isfinite(value);
         char* const end = Room(kMaxNumberText);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "io/ScopedCLocale.h"
+#include "io/ScopedPointer.h"
 #include "model/VynData.h"
 #include "platform/text/HostPath.h"
 #include "platform/ui/HostServices.h"
@@ -18,18 +19,6 @@ namespace {
 constexpr int kBusyTimeOut = 200;  // ms
 constexpr int kCLocaleMode = 1;
 constexpr std::size_t kStreamBuffer = std::size_t{256} * 1024;
-
-/// Sets a pointer for the time of a scope.
-class ScopedStream {
-public:
-    ScopedStream(std::ostream*& place, std::ostream& stream) : m_place(place) { place = &stream; }
-    ScopedStream(const ScopedStream&) = delete;
-    ScopedStream& operator=(const ScopedStream&) = delete;
-    ~ScopedStream() { m_place = nullptr; }
-
-private:
-    std::ostream*& m_place;
-};
 
 }  // namespace
 
@@ -84,7 +73,8 @@ bool CStreamFile::WriteToFile() {
     std::ofstream stream;
     stream.rdbuf()->pubsetbuf(buffer.get(), static_cast<std::streamsize>(kStreamBuffer));
     stream.open(Text::ToPath(m_fileName), std::ios::out | std::ios::trunc | std::ios::binary);
-    const ScopedStream valid(m_stream, stream);
+    std::ostream& asStream = stream;
+    const ScopedPointer valid(m_stream, asStream);
     const bool written = WriteChecked();
     stream.close();
     return written;

@@ -4,7 +4,6 @@
 
 #include "io/NumberFormat.h"
 #include "legacy/VybConverter.h"
-#include "legacy/VybSectionText.h"
 #include "legacy/VybStream.h"
 #include "model/VynData.h"
 #include "platform/text/Utf8.h"
@@ -20,8 +19,6 @@ constexpr std::size_t kCombinationStart = 24;
 constexpr std::size_t kFactor = 4;
 constexpr double kZeroFactor = 1e-10;
 constexpr std::size_t kResultRecord = 28;
-/// Records of results begin in blocks of the file that no other ones share.
-constexpr std::uint64_t kBlockBytes = 512;
 
 /// What a case with results was solved for.
 struct Solution {
@@ -104,7 +101,8 @@ void CVybConverter::TakeCombination(CVybRecord& record) {
 bool CVybConverter::Results(const CUnit& units) {
     const int highest =
         std::min(m_header.numLoadCase, m_directory.NumEntry() - CVybDirectory::kResults);
-    std::uint64_t blocksLeft = m_stream.Size() / kBlockBytes + 1;
+    // Records of results share no blocks, so there can't be more of them than blocks.
+    std::uint64_t blocksLeft = m_stream.Size() / CVybDirectory::kBlockBytes + 1;
     for (int number = 1; number <= highest; ++number) {
         const int entry = CVybDirectory::kResults + number;
         if (!m_directory.Has(entry)) {

@@ -11,7 +11,6 @@ namespace {
 
 /// An entry is the block (from 1) at which the records begin, plus a million times the solution.
 constexpr std::int64_t kSolutionUnit = 1'000'000;
-constexpr std::int64_t kBlockBytes = 512;
 constexpr std::uint64_t kEntryBytes = 4;
 
 }  // namespace

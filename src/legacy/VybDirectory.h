@@ -34,6 +34,9 @@ public:
         kResults = 20  ///< plus the number of the load case
     };
 
+    /// Records begin in blocks of so many bytes.
+    static constexpr std::int64_t kBlockBytes = 512;
+
     /// Reads the entries from where the stream stands; `count` counts one more than there are.
     /// False when the file can't hold them.
     bool Read(CVybStream& stream, int count);

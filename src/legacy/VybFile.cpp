@@ -64,6 +64,12 @@ bool CVybFile::OpenRead(const std::wstring& path, std::wstring& messages) {
         AddOpenError(messages, reason);
         return false;
     }
+    const bool read = ReadLocked();
+    m_stream.Close();
+    return read;
+}
+
+bool CVybFile::ReadLocked() {
     CSingleLock modelLock(m_model.ShareModelBusy());
     CSingleLock resultsLock(m_model.ShareResultsBusy());
     if (!modelLock.Lock(kBusyTimeOut) || !resultsLock.Lock(kBusyTimeOut)) {

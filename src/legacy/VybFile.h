@@ -28,6 +28,7 @@ public:
     bool OpenRead(const std::wstring& path, std::wstring& messages);
 
 private:
+    bool ReadLocked();
     bool Read();
     bool ReadHeader();
     bool ReadRecords();

@@ -6,13 +6,13 @@
 
 #include "legacy/VybRecord.h"
 #include "legacy/VybStream.h"
+#include "platform/text/Ascii.h"
 
 namespace Tevra {
 
 namespace {
 
-/// Fields of the text block: version, file kind, job number, date, initials, time, release.
-constexpr std::size_t kTextFields[] = {5, 5, 10, 10, 5, 10, 5};
+constexpr std::size_t kVersion = 5;
 constexpr int kFirstBlockWords = 53;
 constexpr int kResultsFrom = 1'000'000;
 
@@ -57,18 +57,9 @@ bool ReadGroup(CVybStream& stream, std::size_t word, const TextGroup& group, std
 }  // namespace
 
 bool VybHeader::ReadTexts(CVybStream& stream) {
-    std::string text;
-    bool isFirst = true;
-    for (const std::size_t length : kTextFields) {
-        if (!stream.ReadText(length, text)) {
-            return false;
-        }
-        if (isFirst) {
-            version = text;
-        }
-        isFirst = false;
-    }
-    return true;
+    constexpr std::size_t kOthers = 45;  // kind of file, job number, date, initials, time, release
+    std::string ignored;
+    return stream.ReadText(kVersion, version) && stream.ReadText(kOthers, ignored);
 }
 
 bool VybHeader::SkipFirstBlock(CVybStream& stream) {
@@ -121,14 +112,18 @@ CUnit VybHeader::Units() const {
         return units;
     }
     const std::string_view texts = unitTexts;
-    const std::wstring length = VybText(texts.substr(0, 5));
-    const std::wstring force = VybText(texts.substr(5, 5));
-    const auto set = [&units](UnitKind kind, const std::wstring& text) {
-        units.SetUnitString(static_cast<int>(kind), text);
+    constexpr std::size_t kLength = kUnitGroup.length;
+    const auto text = [texts](std::size_t i) {
+        return std::wstring(Text::Trim(VybText(texts.substr(i * kLength, kLength))));
+    };
+    const std::wstring length = text(0);
+    const std::wstring force = text(1);
+    const auto set = [&units](UnitKind kind, const std::wstring& unit) {
+        units.SetUnitString(static_cast<int>(kind), unit);
     };
     set(UnitKind::Force, force);
     set(UnitKind::Length, length);
-    set(UnitKind::Mass, VybText(texts.substr(10, 5)));
+    set(UnitKind::Mass, text(2));
     set(UnitKind::Displacement, length);
     set(UnitKind::Stress, force + L"/" + length + L"\u00B2");
     return units;

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "legacy/VybConverter.h"
+#include "model/LinkKind.h"
 #include "model/VynData.h"
 
 namespace Tevra {
@@ -84,12 +85,10 @@ CEntList CVybConverter::ListOf(int number, SelType kind) const {
 }
 
 void CVybConverter::TakeRigid(CVybRecord& record) {
-    // All, all pinned; in the planes XY, YZ, ZX, and the same pinned.
-    static constexpr std::array kTypes = {4095, 1911, 2101, 856, 1411, 53, 848, 1283};
     const int number = TakeNumber(record, CVybDirectory::kRigids);
     Data::CRigid rigid;
     rigid.SetPrimaryNode(record.Reference());
-    rigid.SetType(record.Code(kTypes));
+    rigid.SetType(record.Code(kLinkKinds).code);
     rigid.SetNodes(ListOf(record.Reference(), SelType::Node));
     if (record.Good()) {
         m_model.SetRigid(number, std::move(rigid));

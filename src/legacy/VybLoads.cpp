@@ -127,9 +127,15 @@ void CVybConverter::TakeSettlement(CVybRecord& record) {
 void CVybConverter::TakeBeamLoad(CVybRecord& record) {
     Data::CBeamLoad load;
     TakeLoadBase(record, load, SelType::Element);
-    TakeDirection(record, load);
+    const int axis = record.Int();
+    const int direction = record.Int();
     const BeamFields fields = BeamFields::Take(record);
     if (fields.kind < kFirstAxialKind) {
+        load.SetAxis(axis);
+        load.SetDirection(record.Meaning(direction, kDirections));
+        if (axis < kLocalAxis) {
+            record.Refuse();
+        }
         load.SetType(record.Meaning(fields.kind, kBeamKinds));
         load.SetProjected(fields.projected);
         SetPoints(load, fields);

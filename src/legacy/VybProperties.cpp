@@ -1,4 +1,5 @@
 #include <array>
+#include <cmath>
 #include <limits>
 
 #include "legacy/VybConverter.h"
@@ -56,6 +57,9 @@ void CVybConverter::TakeMaterial(CVybRecord& record) {
     Data::CMatAnal material(Named(L"Material ", number), e, nu, density, alpha);
     if (g != 0.0) {
         material.SetG({g, g, g});
+    }
+    if (!std::isfinite(material.G())) {
+        record.Refuse();
     }
     if (record.Good()) {
         m_model.SetMatAnal(number, std::move(material));

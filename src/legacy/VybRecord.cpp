@@ -1,5 +1,6 @@
 #include "legacy/VybRecord.h"
 
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -26,6 +27,14 @@ std::wstring VybText(std::string_view bytes) {
         text += IsControl(c) ? L' ' : static_cast<wchar_t>(c);
     }
     return std::wstring(Text::TrimRight(text));
+}
+
+double ThroughShortestText(float value) {
+    std::array<char, 32> text{};
+    const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value);
+    double result = 0.0;
+    std::from_chars(text.data(), end, result);
+    return error == std::errc() ? result : static_cast<double>(value);
 }
 
 std::span<const char> CVybRecord::Take(std::size_t length) {

@@ -15,6 +15,9 @@ namespace Tevra {
 /// characters and without blanks at its end.
 std::wstring VybText(std::string_view bytes);
 
+/// A single-precision value as the double that its shortest text reads as: 0.1 is 0.1.
+double ThroughShortestText(float value);
+
 /// The fields of one record of a legacy file, one after the other. A field that its kind does not
 /// allow, or that lies past the end, makes the record bad and reads as the least value of its kind.
 class CVybRecord {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 #include "io/NumberFormat.h"
+#include "legacy/VybRecord.h"
 #include "platform/text/Utf8.h"
 
 namespace Tevra {
@@ -106,14 +106,6 @@ std::wstring VybSectionText(int shape, const std::wstring& stored,
         default:
             return found.prefix + stored;
     }
-}
-
-double ThroughShortestText(float value) {
-    std::array<char, 32> text{};
-    const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value);
-    double result = 0.0;
-    std::from_chars(text.data(), end, result);
-    return error == std::errc() ? result : static_cast<double>(value);
 }
 
 }  // namespace Tevra

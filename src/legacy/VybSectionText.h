@@ -10,7 +10,4 @@ namespace Tevra {
 std::wstring VybSectionText(int shape, const std::wstring& stored,
                             std::span<const float> properties);
 
-/// A single-precision value as the double that its shortest text reads as: 0.1 is 0.1.
-double ThroughShortestText(float value);
-
 }  // namespace Tevra

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <system_error>
 
 #include "platform/text/HostPath.h"
@@ -15,8 +16,12 @@ constexpr std::size_t kBuffer = std::size_t{256} * 1024;
 }  // namespace
 
 bool CVybStream::Open(const std::wstring& path, std::string& error) {
-    errno = 0;
-    m_file = std::ifstream(Text::ToPath(path), std::ios::binary);
+    const std::filesystem::path file = Text::ToPath(path);
+    std::error_code ignored;
+    errno = std::filesystem::is_directory(file, ignored) ? EISDIR : 0;
+    if (errno == 0) {
+        m_file = std::ifstream(file, std::ios::binary);
+    }
     if (!m_file.is_open()) {
         error = std::generic_category().message(errno);
         return false;

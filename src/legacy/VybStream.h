@@ -18,6 +18,7 @@ class CVybStream {
 public:
     /// Opens a file ("rb"); false, with the reason in `error`, when that fails.
     bool Open(const std::wstring& path, std::string& error);
+    void Close() { m_file.close(); }
     /// Whether the words are in the other byte order than this machine's.
     void SetSwap(bool swap) { m_swap = swap; }
     bool Swap() const { return m_swap; }

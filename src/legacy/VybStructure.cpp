@@ -22,6 +22,12 @@ void Release(Data::CElement& element, int end, Vbool6 released) {
     element.SetConnect(end, connect);
 }
 
+/// Numbers that stand in the file twice are those of one record.
+void SortOut(std::vector<int>& numbers) {
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+}
+
 Data::COffset TakeOffset(CVybRecord& record) {
     const std::array<double, 4> values = record.Reals<4>();
     return {values[0], values[1], values[2], values[3]};
@@ -82,6 +88,8 @@ void CVybConverter::TakeTopo(CVybRecord& record, Data::CElement& element) {
 
 /// What uses a spring that was split needs a second element for its rotations.
 bool CVybConverter::FinishElements() {
+    SortOut(m_splitElements);
+    SortOut(m_splitNodes);
     int next = m_model.HighestElem();
     const std::size_t wanted = m_splitElements.size() + m_splitNodes.size();
     if (wanted > static_cast<std::size_t>(std::numeric_limits<int>::max() - next)) {

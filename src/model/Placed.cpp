@@ -20,4 +20,8 @@ bool HasPlacedNodes(const CVynData& model, const Data::CElement& element) {
     return has;
 }
 
+bool HasPlacedNodes(const CVynData& model, const Data::CJoint& joint) {
+    return IsPlaced(model, joint.Node(1)) && IsPlaced(model, joint.Node(2));
+}
+
 }  // namespace Tevra

@@ -1,17 +1,32 @@
 #pragma once
 
+#include "model/Util.h"
+
 namespace Tevra {
 
 class CVynData;
 
 namespace Data {
 class CElement;
-}
+class CJoint;
+}  // namespace Data
 
 /// Whether a node exists and its coordinates are numbers.
 bool IsPlaced(const CVynData& model, int node);
 
 /// Whether an element has the nodes that its type needs, all of them placed.
 bool HasPlacedNodes(const CVynData& model, const Data::CElement& element);
+/// Whether both nodes of a joint are placed.
+bool HasPlacedNodes(const CVynData& model, const Data::CJoint& joint);
+
+/// Calls `use` with the nodes of a list that are placed, ascending.
+template <class Use>
+void ForEachPlaced(const CVynData& model, const CEntList& nodes, Use use) {
+    Util::Item(nodes, model, -1, true).ForEach([&](int node) {
+        if (IsPlaced(model, node)) {
+            use(node);
+        }
+    });
+}
 
 }  // namespace Tevra

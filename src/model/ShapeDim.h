@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "model/SecGeom.h"
 
 namespace Tevra::Data {
@@ -16,5 +18,21 @@ struct ShapeDim {
         return geometry.Dimension(index) * factor - (less >= 0 ? geometry.Dimension(less) : 0.0);
     }
 };
+
+/// The first of a table of shapes that has a class among its `classes`; null when none has.
+template <class Shape, std::size_t N>
+const Shape* FindShape(const Shape (&shapes)[N], SectionClass shapeClass) {
+    if (shapeClass == SectionClass::None) {
+        return nullptr;
+    }
+    for (const Shape& shape : shapes) {
+        for (const SectionClass known : shape.classes) {
+            if (known == shapeClass) {
+                return &shape;
+            }
+        }
+    }
+    return nullptr;
+}
 
 }  // namespace Tevra::Data

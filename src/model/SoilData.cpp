@@ -104,7 +104,9 @@ void CModelData::ProcessQuorlData(const QuorlData& data) {
     SetAll(data.pileSoilCurves,
            [this](int n, auto record) { SetPileSoilCurve(n, std::move(record)); });
     const QuorlSettings& from = data.settings;
-    SetRaft({from.rigidLevel, from.maxERatio, from.poissonRatio, from.stiffnessOption});
+    if (data.hasSettings) {
+        SetRaft({from.rigidLevel, from.maxERatio, from.poissonRatio, from.stiffnessOption});
+    }
 }
 
 void CModelData::ReplaceSoilRectLoads(const QuorlData& data) {

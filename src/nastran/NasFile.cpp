@@ -1,5 +1,6 @@
 #include "nastran/NasFile.h"
 
+#include "io/ScopedPointer.h"
 #include "io/Text.h"
 #include "io/TextOut.h"
 #include "model/VynData.h"
@@ -30,7 +31,7 @@ bool CNasFile::Write() {
         return false;
     }
     TextOut out(*m_stream);
-    m_out = &out;
+    const ScopedPointer valid(m_out, out);
     m_elementNumber = m_model->HighestElem();
     FindWrittenNodes();
     FindWrittenProperties();
@@ -60,7 +61,6 @@ bool CNasFile::Write() {
         AddError(L"The numbers of generated elements do not fit into a field");
     }
     written = out.Flush() && written;
-    m_out = nullptr;
     if (written) {
         m_report = L"<h3>Nastran Export</h3>\n" + m_materials.Report();
     }

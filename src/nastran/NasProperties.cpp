@@ -55,18 +55,9 @@ const LibraryShape* ShapeOf(const CSection& section) {
     const CSecGeom& geometry = section.Component(1).Geometry();
     const bool isNamed = geometry.Kind() == Data::SectionKind::Standard ||
                          geometry.Kind() == Data::SectionKind::Catalogue;
-    if (!isNamed || section.NumComponent() != 1 ||
-        !(section.Modifiers() == Data::SectionModifiers{})) {
-        return nullptr;
-    }
-    for (const LibraryShape& shape : kLibrary) {
-        for (const SectionClass shapeClass : shape.classes) {
-            if (shapeClass != SC::None && shapeClass == geometry.ShapeClass()) {
-                return &shape;
-            }
-        }
-    }
-    return nullptr;
+    const bool isPlain =
+        section.NumComponent() == 1 && section.Modifiers() == Data::SectionModifiers{};
+    return isNamed && isPlain ? Data::FindShape(kLibrary, geometry.ShapeClass()) : nullptr;
 }
 
 /// Corner of the box round the outlines of a section, about its centroid; zero without outlines.

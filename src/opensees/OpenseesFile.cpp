@@ -58,8 +58,7 @@ bool COpenseesFile::Write() {
 
 void COpenseesFile::End(OpsContext& c, const wchar_t* kind, int number) {
     if (!c.line.End()) {
-        AddNote(std::wstring(kind) + L" " + std::to_wstring(number) +
-                L" is not exported, as one of its values is not a number");
+        AddNote(kind, number, L"is not exported, as one of its values is not a number");
     }
 }
 

@@ -40,7 +40,6 @@ private:
 
     void WriteTransformations(OpsContext& c);
     void WriteElements(OpsContext& c);
-    void NoteElementsLeftOut(OpsContext& c);
 
     void WriteRigidLinks(OpsContext& c);
     void WriteJoints(OpsContext& c);

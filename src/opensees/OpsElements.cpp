@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "model/ElementsLeftOut.h"
 #include "model/Faces.h"
 #include "model/LoadValues.h"
 #include "opensees/OpenseesFile.h"
@@ -143,47 +144,15 @@ void COpenseesFile::WriteElements(OpsContext& c) {
         }
         End(c, L"Element", number);
     }
-    NoteElementsLeftOut(c);
-}
-
-void COpenseesFile::NoteElementsLeftOut(OpsContext& c) {
-    bool hasCable = false;
-    bool hasLink = false;
-    bool hasSpacer = false;
-    bool hasDummy = false;
-    int faults = 0;
-    int firstFault = 0;
-    for (const int number : m_model->ElemTable().Numbers()) {
-        const Data::CElement& record = m_model->Elem(number);
-        hasCable = hasCable || record.IsCable();
-        hasLink = hasLink || record.IsLink();
-        hasSpacer = hasSpacer || record.IsSpacer();
-        if (KindOf(*m_model, record) == OpsKind::None) {
-            continue;
-        }
-        if (record.IsDummy()) {
-            hasDummy = true;
-        } else if (c.WrittenAs(number) == OpsKind::None) {
-            ++faults;
-            firstFault = firstFault == 0 ? number : firstFault;
-        }
-    }
-    const std::pair<bool, const wchar_t*> kinds[] = {
-        {hasCable, L"Cable elements not exported"},
-        {hasLink, L"Link elements not exported"},
-        {hasSpacer, L"Spacer elements not exported"},
-        {hasDummy, L"Dummy elements not exported"},
+    const auto hasPlace = [this](const Data::CElement& element) {
+        return KindOf(*m_model, element) != OpsKind::None;
     };
-    for (const auto& [has, text] : kinds) {
-        if (has) {
-            AddNote(text);
-        }
-    }
-    if (faults > 0) {
-        AddNote(
-            L"Elements without length, or whose nodes, property or material do not exist, not "
-            L"exported: " +
-            std::to_wstring(faults) + L", the first is " + std::to_wstring(firstFault));
+    const auto isWritten = [&c](int number) { return c.WrittenAs(number) != OpsKind::None; };
+    for (const std::wstring& note :
+         FindElementsLeftOut(*m_model, hasPlace, isWritten)
+             .Notes(L"Elements without length, or whose nodes, property or material do not exist, "
+                    L"not exported: ")) {
+        AddNote(note);
     }
 }
 

@@ -1,6 +1,7 @@
-#include <algorithm>
+#include <array>
 
-#include "model/Util.h"
+#include "model/LinkKind.h"
+#include "model/Placed.h"
 #include "sap/SapContext.h"
 #include "sap/SapFile.h"
 
@@ -10,24 +11,12 @@ namespace Tevra {
 
 namespace {
 
-/// What a link-type code becomes.
-struct ConstraintWord {
-    std::string_view word;
-    int linkType;
-    bool isPinned;
-};
-constexpr ConstraintWord kWords[] = {
-    {"TYPE=BODY ", 4095, false},         {"TYPE=BODY ", 1911, true},
-    {"TYPE=DIAPH AXIS=Z ", 2101, false}, {"TYPE=DIAPH AXIS=Z ", 53, true},
-    {"TYPE=DIAPH AXIS=Y ", 1411, false}, {"TYPE=DIAPH AXIS=Y ", 1283, true},
-    {"TYPE=DIAPH AXIS=X ", 856, false},  {"TYPE=DIAPH AXIS=X ", 848, true},
-};
+/// By what is square to the plane that is tied; first for no plane.
+constexpr std::array<std::string_view, 4> kWords = {"TYPE=BODY ", "TYPE=DIAPH AXIS=X ",
+                                                    "TYPE=DIAPH AXIS=Y ", "TYPE=DIAPH AXIS=Z "};
 
-ConstraintWord WordOf(int linkType) {
-    const auto* const found =
-        std::find_if(std::begin(kWords), std::end(kWords),
-                     [linkType](const ConstraintWord& w) { return w.linkType == linkType; });
-    return found != std::end(kWords) ? *found : ConstraintWord{"", linkType, false};
+std::string_view WordOf(const LinkKind* kind) {
+    return kind != nullptr ? kWords[static_cast<std::size_t>(kind->normal)] : std::string_view();
 }
 
 void WriteName(SapContext& c, int& name, std::string_view word) {
@@ -56,8 +45,8 @@ void CSapFile::WriteRigids(SapContext& c, int& name) {
         const Data::CRigid& rigid = m_model->Rigid(number);
         const int primary = rigid.PrimaryNode();
         if (!IsPlaced(*m_model, primary)) {
-            AddNote(L"Rigid constraint " + std::to_wstring(number) +
-                    L" is not exported, as its primary node does not exist");
+            AddNote(L"Rigid constraint", number,
+                    L"is not exported, as its primary node does not exist");
             continue;
         }
         const int own = m_model->Node(primary).Axis();
@@ -66,15 +55,11 @@ void CSapFile::WriteRigids(SapContext& c, int& name) {
             c.out.Append("  CSYS=").Int(axis).EndLine();
             last = axis;
         }
-        const ConstraintWord word = WordOf(rigid.TypeOf());
-        WriteName(c, name, word.word);
+        const LinkKind* const kind = FindLinkKind(rigid.TypeOf());
+        WriteName(c, name, WordOf(kind));
         WriteAdd(c, primary);
-        Util::Item(rigid.Nodes(), *m_model, -1, true).ForEach([&](int node) {
-            if (IsPlaced(*m_model, node)) {
-                WriteAdd(c, node);
-            }
-        });
-        if (word.isPinned) {
+        ForEachPlaced(*m_model, rigid.Nodes(), [&c](int node) { WriteAdd(c, node); });
+        if (kind != nullptr && kind->isPinned) {
             AddNote(L"Rigid constraint " + std::to_wstring(number) +
                     L" will loose its pin condition");
         }
@@ -87,10 +72,9 @@ void CSapFile::WriteRigidLinks(SapContext& c, int& name) {
             continue;
         }
         const Data::CElement& record = m_model->Elem(number);
-        const bool hasProperty = m_model->LinkPropExist(record.Property());
+        const Data::CLinkProp* const property = m_model->LinkPropTable().Find(record.Property());
         WriteName(c, name,
-                  hasProperty ? WordOf(m_model->LinkProp(record.Property()).TypeOf()).word
-                              : kWords[0].word);
+                  property != nullptr ? WordOf(FindLinkKind(property->TypeOf())) : kWords[0]);
         WriteAdd(c, record.Topo(1));
         WriteAdd(c, record.Topo(2));
     }
@@ -99,9 +83,8 @@ void CSapFile::WriteRigidLinks(SapContext& c, int& name) {
 void CSapFile::WriteJointConstraints(SapContext& c, int& name) {
     for (const int number : m_model->JointTable().Numbers()) {
         const Data::CJoint& joint = m_model->Joint(number);
-        if (!IsPlaced(*m_model, joint.Node(1)) || !IsPlaced(*m_model, joint.Node(2))) {
-            AddNote(L"Joint " + std::to_wstring(number) +
-                    L" is not exported, as one of its nodes does not exist");
+        if (!HasPlacedNodes(*m_model, joint)) {
+            AddNote(L"Joint", number, L"is not exported, as one of its nodes does not exist");
             continue;
         }
         WriteName(c, name, "TYPE=LOCAL");

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "model/ElementsLeftOut.h"
 #include "model/Faces.h"
 #include "sap/SapContext.h"
 #include "sap/SapFile.h"
@@ -18,36 +19,16 @@ void AddNodes(RecordText& line, const Data::CElement& element, int first, int la
 
 }  // namespace
 
-bool CSapFile::ScanElements(SapContext& c) {
-    bool hasCable = false;
-    bool hasSpacer = false;
-    int dummies = 0;
-    int faults = 0;
-    int firstFault = 0;
-    for (const int number : m_model->ElemTable().Numbers()) {
-        const Data::CElement& record = m_model->Elem(number);
-        hasCable = hasCable || record.IsCable();
-        hasSpacer = hasSpacer || record.IsSpacer();
-        const SapBlock block = BlockOf(*m_model, record);
-        if (record.IsDummy()) {
-            dummies += block != SapBlock::None ? 1 : 0;
-        } else if (block != SapBlock::None && !c.written.Test(number)) {
-            ++faults;
-            firstFault = firstFault == 0 ? number : firstFault;
-        }
-    }
-    if (hasCable) {
-        AddNote(L"Cable elements not exported");
-    }
-    if (hasSpacer) {
-        AddNote(L"Spacer elements not exported");
-    }
-    if (dummies > 0) {
-        AddNote(L"Dummy elements not exported");
-    }
-    if (faults > 0) {
-        AddNote(L"Elements whose nodes or property do not exist not exported: " +
-                std::to_wstring(faults) + L", the first is " + std::to_wstring(firstFault));
+bool CSapFile::NoteElementsLeftOut(SapContext& c) {
+    const auto hasBlock = [this](const Data::CElement& element) {
+        return BlockOf(*m_model, element) != SapBlock::None;
+    };
+    ElementsLeftOut found = FindElementsLeftOut(
+        *m_model, hasBlock, [&c](int number) { return c.written.Test(number); });
+    found.hasLink = false;  // links become constraints
+    for (const std::wstring& note :
+         found.Notes(L"Elements whose nodes or property do not exist not exported: ")) {
+        AddNote(note);
     }
     return true;
 }

@@ -21,7 +21,7 @@ bool CSapFile::Write() {
     constexpr Block kBlocks[] = {
         &CSapFile::WriteTitles,         &CSapFile::WriteSystem,
         &CSapFile::WriteCoordinates,    &CSapFile::WriteJoints,
-        &CSapFile::ScanElements,        &CSapFile::WriteFrames,
+        &CSapFile::NoteElementsLeftOut, &CSapFile::WriteFrames,
         &CSapFile::WriteLinkElements,   &CSapFile::WriteShells,
         &CSapFile::WritePlanes,         &CSapFile::WriteFrameSections,
         &CSapFile::WriteLinkProperties, &CSapFile::WriteShellSections,
@@ -40,8 +40,7 @@ bool CSapFile::Write() {
 
 void CSapFile::End(SapContext& c, const wchar_t* kind, int number) {
     if (!c.line.End()) {
-        AddNote(std::wstring(kind) + L" " + std::to_wstring(number) +
-                L" is not exported, as one of its values is not a number");
+        AddNote(kind, number, L"is not exported, as one of its values is not a number");
     }
 }
 

@@ -47,7 +47,7 @@ private:
     void WriteLocals(SapContext& c);
     void WriteRestraints(SapContext& c);
     void WriteJointSprings(SapContext& c);
-    bool ScanElements(SapContext& c);
+    bool NoteElementsLeftOut(SapContext& c);
     bool WriteFrames(SapContext& c);
     bool WriteFrame(SapContext& c, int element);
     bool WriteLinkElements(SapContext& c);

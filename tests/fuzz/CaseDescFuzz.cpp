@@ -1,10 +1,12 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
+#include "fuzz/Require.h"
 #include "model/VynData.h"
 #include "platform/text/Utf8.h"
+
+using FuzzSupport::Require;
 
 namespace {
 
@@ -18,12 +20,6 @@ Tevra::CVynData MakeModel() {
     model.SetCombinationCase(3, Tevra::CCombinationCase(L"", L"C2max - C4"));
     model.SetCombinationCase(4, Tevra::CCombinationCase(L"", L"C3"));
     return model;
-}
-
-void Require(bool condition) {
-    if (!condition) {
-        std::abort();
-    }
 }
 
 }  // namespace

@@ -1,26 +1,21 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "fuzz/Require.h"
 #include "model/VynData.h"
 #include "platform/text/Utf8.h"
 
 using namespace Tevra;
+using FuzzSupport::Require;
 
 namespace {
 
 constexpr int kNumAnalysisCase = 6;
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 /// A model whose combinations are the lines of the input, after a few of its own.
 CVynData MakeModel(std::string_view& lines) {

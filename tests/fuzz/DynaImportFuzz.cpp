@@ -1,20 +1,15 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
+#include "fuzz/Require.h"
 #include "support/DeckReader.h"
 
 using namespace Tevra;
+using FuzzSupport::Require;
 
 namespace {
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 /// What holds for every element that was read: as many nodes as its type has, none below 1.
 void Check(const Data::CElement& element) {

@@ -1,10 +1,10 @@
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "fuzz/Require.h"
 #include "model/ListTerms.h"
 #include "model/Util.h"
 #include "model/VynData.h"
@@ -12,14 +12,9 @@
 #include "platform/text/Utf8.h"
 
 using namespace Tevra;
+using FuzzSupport::Require;
 
 namespace {
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 constexpr std::array kKinds{SelType::Node,      SelType::Element,  SelType::Member,
                             SelType::Case,      SelType::LoadCase, SelType::Mode,

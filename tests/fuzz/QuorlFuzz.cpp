@@ -1,41 +1,16 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
-#include <sys/mman.h>
-#include <unistd.h>
 
+#include "fuzz/MemoryFile.h"
 #include "model/VynData.h"
 #include "pile/QuorlFile.h"
 #include "platform/ui/RecordingHost.h"
 
 using namespace Tevra;
-
-namespace {
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
-
-/// A file in memory, under a name.
-class MemoryFile {
-public:
-    MemoryFile(const std::uint8_t* data, std::size_t size) : m_file(memfd_create("soil.qdf", 0)) {
-        Require(m_file >= 0 && write(m_file, data, size) == static_cast<ssize_t>(size));
-    }
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
-    ~MemoryFile() { close(m_file); }
-    std::wstring Name() const { return L"/proc/self/fd/" + std::to_wstring(m_file); }
-
-private:
-    int m_file;
-};
-
-}  // namespace
+using FuzzSupport::MemoryFile;
+using FuzzSupport::Require;
 
 // A file is read whole, or refused and leaves no soil data; what was read can be written and read
 // again, and is the same then.

@@ -1,20 +1,15 @@
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
+#include "fuzz/Require.h"
 #include "model/SecGeom.h"
 #include "platform/text/Utf8.h"
 
 using namespace Tevra;
+using FuzzSupport::Require;
 
 namespace {
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 /// What holds for every description: finite properties, polygons when there is an outline.
 void Check(const Data::CSecGeom& geometry) {

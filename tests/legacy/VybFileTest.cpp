@@ -4,11 +4,14 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <future>
 #include <gtest/gtest.h>
+#include <thread>
 
 #include "legacy/VybFile.h"
 #include "model/VynData.h"
 #include "platform/text/HostPath.h"
+#include "platform/text/Utf8.h"
 #include "platform/ui/RecordingHost.h"
 #include "support/TempFolder.h"
 #include "support/TestPaths.h"
@@ -164,6 +167,40 @@ TEST_F(VybFileTest, SectionTexts) {
     }
 }
 
+// Every shape code, so that no two of them change places.
+TEST_F(VybFileTest, SectionPrefixes) {
+    const char* const catalogue[] = {"UB", "UC", "UJ",  "BP",  "CHS", "SHS", "RHS", "CH",
+                                     "EA", "UA", "CUB", "CUC", "CJ",  "TUB", "TUC"};
+    const char* const standard[] = {"C", "CHS", "R", "RHS", "I"};
+    const char* const later[] = {"IPE", "HE", "HL", "HX", "EP", "E-H", "E-J", "E-M", "E-W",
+                                 "W",   "M",  "S",  "HP", "C",  "MC",  "WT",  "MT",  "ST",
+                                 "L",   "LL", "TS", "P",  "PX", "PXX", "HD"};
+    std::vector<VybFields> records;
+    std::vector<std::string> expected;
+    const auto add = [&](int shape, const std::string& description) {
+        const int number = static_cast<int>(records.size()) + 1;
+        records.push_back(VybFields{number, 1, shape}.Text("xyz1x2", 32).Reals({0, 0, 0, 0, 0, 0}));
+        expected.push_back(description);
+    };
+    for (int i = 0; i < 15; ++i) {
+        add(1 + i, std::string("CAT%") + catalogue[i] + "%xyz1x2");
+    }
+    for (int i = 0; i < 5; ++i) {
+        add(16 + i, std::string("STD%") + standard[i] + "%1%2");
+    }
+    for (int i = 0; i < 25; ++i) {
+        add(26 + i, std::string("CAT%") + later[i] + "%xyz1x2");
+    }
+    for (const int shape : {22, 23, 24, 25, 51, 1000}) {
+        add(shape, "xyz1x2");
+    }
+    ASSERT_TRUE(ReadRecords(4, records));
+    for (int number = 1; number <= static_cast<int>(expected.size()); ++number) {
+        EXPECT_EQ(Text::ToUtf8(m_model.Section(number).Description()),
+                  expected[static_cast<std::size_t>(number - 1)]);
+    }
+}
+
 TEST_F(VybFileTest, ListTexts) {
     struct Case {
         VybFields items;
@@ -286,6 +323,27 @@ TEST_F(VybFileTest, Loads) {
     EXPECT_EQ(gradient.UniformPart(), 5.0);
     EXPECT_EQ(m_model.FaceThermalLoad(1).Value(1), 7.0);
     EXPECT_EQ(m_model.FaceThermalLoad(1).Value(2), -1.0);
+}
+
+// Prestress has no direction; other loads of beams must have one, and axes are -1 and on.
+TEST_F(VybFileTest, DirectionsOfBeamLoads) {
+    const auto load = [](int axis, int direction, int kind) {
+        return VybFields{1, 0, axis, direction, kind, 0, 0}.Reals({0, 2, 0, 3, 0, 0});
+    };
+    EXPECT_TRUE(ReadRecords(14, {load(-9, 0, 12), load(0, 0, 13)}));
+    EXPECT_EQ(m_model.AxialLoad(1).TypeOf(), AxialLoadType::Strain);
+    EXPECT_EQ(m_model.AxialLoad(2).TypeOf(), AxialLoadType::LackOfFit);
+    EXPECT_EQ(m_model.AxialLoad(1).Value(), 2.0);
+    EXPECT_FALSE(ReadRecords(14, {load(0, 0, 1)}));
+    EXPECT_FALSE(ReadRecords(14, {load(-2, 3, 1)}));
+    EXPECT_TRUE(ReadRecords(14, {load(-1, 3, 1), load(0, 3, 3)}));
+    EXPECT_EQ(m_model.BeamLoad(1).TypeOf(), BeamLoadType::Point);
+    EXPECT_EQ(m_model.BeamLoad(2).TypeOf(), BeamLoadType::Linear);
+}
+
+TEST_F(VybFileTest, MaterialsWithoutAShearModulusAreRefused) {
+    EXPECT_FALSE(ReadRecords(3, {VybFields{1}.Reals({2e11F, -1.0F, 7850, 0, 0})}));
+    EXPECT_TRUE(ReadRecords(3, {VybFields{1}.Reals({2e11F, -1.0F, 7850, 0, 8e10F})}));
 }
 
 TEST_F(VybFileTest, TrilinearLoads) {
@@ -504,11 +562,20 @@ TEST_F(VybFileTest, AHeldModelIsLeftAlone) {
     m_model.SetNode(1, Data::CNode());
     const CVynData before = m_model;
     for (SyncObject* const held : {&m_model.ShareModelBusy(), &m_model.ShareResultsBusy()}) {
-        held->Lock();
+        std::promise<void> isHeld;
+        std::promise<void> isDone;
+        std::thread holder([&] {
+            held->Lock();
+            isHeld.set_value();
+            isDone.get_future().wait();
+            held->Unlock();
+        });
+        isHeld.get_future().wait();
         EXPECT_FALSE(Read(SmallVyb()));
         EXPECT_TRUE(m_model == before);
         EXPECT_TRUE(m_host.events.empty() && m_messages.empty());
-        held->Unlock();
+        isDone.set_value();
+        holder.join();
         EXPECT_TRUE(ProbeLock(m_model.ShareModelBusy(), 0));
         EXPECT_TRUE(ProbeLock(m_model.ShareResultsBusy(), 0));
     }

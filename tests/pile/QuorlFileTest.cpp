@@ -219,6 +219,8 @@ TEST_F(QuorlFileTest, DamageIsNamedByModule) {
         {"END MODULE,SOIL ZONES", "END MODULE,SOIL CURVES", kErrors + L"SOIL ZONES\n", false},
         {"RIGID LEVEL", "RIGID LEVELS", kErrors + L"GENERAL\n", false},
         {"METHOD,0", "METHOD,2", kErrors + L"GENERAL\n", false},
+        {"METHOD,0", "LEGACY MINDLIN,0", kErrors + L"GENERAL\n", false},
+        {"GENERAL,1,15\nMETHOD,0\n", "GENERAL,1,14\n", kErrors + L"GENERAL\n", false},
         {"END FILE\n", "", kErrors + L"END FILE\n", false},
         {"4,Clay,2,", "4,Clay,3,", kErrors + L"SOIL CURVES\n" + kWarnings + L"SOIL PROFILES\n",
          false},
@@ -248,6 +250,18 @@ TEST_F(QuorlFileTest, DamageIsNamedByModule) {
         CQuorlFile after(model, nullptr, L"", 1, 1, false);
         EXPECT_EQ(after.QuorlDataExist(), damage.isRead) << damage.to;
     }
+}
+
+// Without general settings the raft keeps its own.
+TEST_F(QuorlFileTest, RaftsWithoutSettings) {
+    std::string text = Exported();
+    const std::size_t begin = text.find("MODULE,GENERAL");
+    Put(text.erase(begin, text.find("MODULE,SOIL PROFILES") - begin));
+    m_model.SetRaftRigidLevel(-45.0);
+    m_model.SetRaftMaxERatio(12.0);
+    EXPECT_TRUE(Import(m_model));
+    EXPECT_EQ(m_model.RaftRigidLevel(), -45.0);
+    EXPECT_EQ(m_model.RaftMaxERatio(), 12.0);
 }
 
 TEST_F(QuorlFileTest, AllDamagedModulesAreNamed) {

@@ -9,7 +9,9 @@ namespace {
 
 constexpr std::size_t kBlock = 512;
 constexpr std::int32_t kSolutionUnit = 1'000'000;
+constexpr int kLastNumbered = 10;  // elements; loads have no numbers
 constexpr int kTitles = 17;
+constexpr int kCombinations = 18;
 constexpr int kResults = 20;
 
 template <class T>
@@ -99,6 +101,23 @@ std::map<int, VybWriter::Piece> VybWriter::Pieces() const {
     return pieces;
 }
 
+int VybWriter::NumRecord(int entry) const {
+    const auto found = m_tables.find(entry);
+    return found != m_tables.end() ? static_cast<int>(found->second.size()) : 0;
+}
+
+int VybWriter::HighestNumber(int entry) const {
+    int highest = 0;
+    const auto found = m_tables.find(entry);
+    if (entry <= kLastNumbered && found != m_tables.end()) {
+        for (const VybFields& record : found->second) {
+            highest = std::max(highest, std::get<std::int32_t>(record.All().front()));
+        }
+        return highest;
+    }
+    return NumRecord(entry);
+}
+
 void VybWriter::AppendHeader(std::string& out, int directoryCount, bool swap) const {
     const VybFields texts = VybFields()
                                 .Text(version, 5)
@@ -114,9 +133,16 @@ void VybWriter::AppendHeader(std::string& out, int directoryCount, bool swap) co
         second.Ints({isFree});
     }
     second.Ints({massOption, massCase, massDirection}).Reals({massScale});
-    second.Ints({numLoadCase, ValueOr({}, 0, m_tables.count(18)), directoryCount, resultsIndicator,
-                 unitFlag});
-    out = texts.Bytes(swap) + Zeros(53) + second.Bytes(swap) + Zeros(44);
+    second.Ints(
+        {numLoadCase, NumRecord(kCombinations), directoryCount, resultsIndicator, unitFlag});
+    // Tolerance, gravity, reference temperature; then the highest numbers of the sixteen kinds.
+    VybFields first;
+    first.Ints({0, 0, 0, 0, 0, 0, 0, 0, 0, 0}).Reals({1e-3F}).Ints({0}).Reals({9.80665F});
+    first.Ints({0}).Reals({20.0F}).Ints({0});
+    for (int kind = 1; kind <= 16; ++kind) {
+        first.Ints({HighestNumber(kind)});
+    }
+    out = texts.Bytes(swap) + first.Bytes(swap) + Zeros(21) + second.Bytes(swap) + Zeros(44);
     out += VybFields().Text(units, 15).Bytes(swap) + Zeros(60) + std::string(30, ' ') + Zeros(78);
 }
 
@@ -188,7 +214,7 @@ VybWriter SmallVyb() {
     file.Add(11, VybFields{1, 0}.Reals({0, 0, -1}));
     file.Add(12, VybFields{2, 7, 0, 3, -1e4F});
     file.Add(13, VybFields{2, 9, -1, 1, 0.01F});
-    file.Add(14, VybFields{1, 8, -1, 3, 4, 1, 1}.Reals({0.25F, -5, 0.75F, -6, 0, 0}));
+    file.Add(14, VybFields{3, 8, -1, 3, 4, 1, 1}.Reals({0.25F, -5, 0.75F, -6, 0, 0}));
     file.Add(14, VybFields{1, 8, 0, 3, 2, 0, 0}.Reals({0, -5, 0, 0, 0, 0}));
     file.Add(14, VybFields{3, 8, 0, 1, 11, 0, 0}.Reals({0, 8e5F, 0, 0, 0.05F, -0.15F}));
     file.Add(15, VybFields{1, 10, -1, 3, 2, 0}.Reals({1, 2, 3, 4}));

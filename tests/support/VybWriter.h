@@ -76,6 +76,9 @@ private:
         VybFields fields;
     };
     std::map<int, Piece> Pieces() const;
+    int NumRecord(int entry) const;
+    /// Of a kind of records that have numbers; else how many there are.
+    int HighestNumber(int entry) const;
     void AppendHeader(std::string& out, int directoryCount, bool swap) const;
 
     std::map<int, std::vector<VybFields>> m_tables;

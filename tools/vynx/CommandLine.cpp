@@ -8,6 +8,7 @@
 
 #include "vynx/Console.h"
 #include "vynx/Format.h"
+#include "vynx/HelpPages.h"
 #include "vynx/commands/Commands.h"
 #include "vynx/samples/Samples.h"
 
@@ -71,7 +72,7 @@ private:
         if (declared.kind != OptionKind::Flag) {
             option->type_name(ValueName(declared));
         }
-        option->group("Options of formats");
+        option->group(kFormatOptions);
         m_texts.try_emplace(name);
         m_options[name] = option;
     }
@@ -93,9 +94,16 @@ public:
             .add_option("--catalogue", m_source.catalogue,
                         "Profiles that sections may name besides those known; docs/sections.md")
             ->type_name("FILE");
+        m_yes = command.add_flag("--yes")->description("Answer questions of the reader with yes");
+        m_no = command.add_flag("--no")
+                   ->description("Answer them with no, as where nobody can be asked")
+                   ->excludes(m_yes);
         m_options.AddTo(command, &Format::readOptions);
     }
+    /// What was given; from then on questions get the answer that was.
     ModelSource Given() const {
+        const bool isGiven = m_yes->count() + m_no->count() > 0;
+        ToolHost::SetAnswer(isGiven ? std::optional(m_yes->count() > 0) : std::nullopt);
         ModelSource source = m_source;
         source.options = m_options.Given();
         return source;
@@ -104,6 +112,8 @@ public:
 private:
     ModelSource m_source;
     FormatOptions m_options;
+    CLI::Option* m_yes = nullptr;
+    CLI::Option* m_no = nullptr;
 };
 
 void AddExport(CLI::App& app) {
@@ -141,13 +151,8 @@ void AddImport(CLI::App& app) {
         ->add_option("--into", request->into,
                      "Model that is read first, and into which FILE is read: soil data")
         ->type_name("MODEL");
-    CLI::Option* yes = command->add_flag("--yes")->description("Answer questions with yes");
-    const CLI::Option* no =
-        command->add_flag("--no")->description("Answer questions with no")->excludes(yes);
     command->footer(kFooter);
     command->callback([=] {
-        const bool isGiven = yes->count() + no->count() > 0;
-        ToolHost::SetAnswer(isGiven ? std::optional(yes->count() > 0) : std::nullopt);
         request->source = source->Given();
         Import(*request);
     });
@@ -208,6 +213,11 @@ int Run(int count, const char* const* arguments) {
     AddInfo(app);
     AddSample(app, sampleRequest);
     app.add_subcommand("formats", "List the formats and their options")->callback(ListFormats);
+    app.add_subcommand("manual", "Print the manual page, roff for man")->callback([&app] {
+        PrintManual(app);
+    });
+    app.add_subcommand("completion", "Print what makes bash complete the command line")
+        ->callback([&app] { PrintCompletion(app); });
 
     ToolHost host;
     const Tevra::ScopedHost scope(host);

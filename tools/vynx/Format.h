@@ -67,6 +67,9 @@ const std::vector<Format>& Formats();
 /// The format with an id, null when there is none.
 const Format* FindFormat(std::string_view id);
 
+/// "read", "written" or "read and written".
+std::string_view DirectionOf(const Format& format);
+
 /// The readable format whose extension (in any case) a file has, null when there is none.
 const Format* ReaderOf(const std::filesystem::path& file);
 

@@ -52,6 +52,13 @@ const Format* FindFormat(std::string_view id) {
     return nullptr;
 }
 
+std::string_view DirectionOf(const Format& format) {
+    if (format.read != nullptr && format.write != nullptr) {
+        return "read and written";
+    }
+    return format.read != nullptr ? "read" : "written";
+}
+
 const Format* ReaderOf(const std::filesystem::path& file) {
     return FormatOf(file, [](const Format& format) { return format.read != nullptr; });
 }

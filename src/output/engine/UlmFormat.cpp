@@ -10,7 +10,7 @@ void CUlmFormatCsv::SetFile(std::ostream* file) {
 
 void CUlmFormatCsv::SetTitles(const Titles& titles) {
     for (const std::wstring& title : titles) {
-        WriteLine(title);
+        WriteLine(Output::GetUlmString(Output::CLine().Text(title)));
     }
     WriteLine({});
 }

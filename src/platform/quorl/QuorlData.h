@@ -50,6 +50,7 @@ struct QuorlSettings {
 class QuorlData {
 public:
     QuorlSettings settings;
+    bool hasSettings = true;  ///< false when a file that was read has none
     std::vector<GeoSoilProfile> soilProfiles;
     std::vector<GeoSoilZone> soilZones;
     std::vector<GeoCurve> soilCurves;
@@ -85,7 +86,10 @@ public:
     bool ReadData(FileIO::CDataFile& file, ReadReport& report);
 
 private:
+    friend struct SettingsModule;
     void FindDanglingReferences(ReadReport& report) const;
+
+    std::vector<int> m_settingsRead;  ///< places of the settings in the file's order, as they came
 };
 
 }  // namespace Tevra

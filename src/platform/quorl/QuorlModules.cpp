@@ -55,6 +55,8 @@ struct ReadValue {
     }
 };
 
+}  // namespace
+
 /// The general settings, one to a line.
 struct SettingsModule {
     static int Count(const QuorlData& data) {
@@ -72,17 +74,33 @@ struct SettingsModule {
     static bool Read(QuorlFields& fields, QuorlData& data, bool isNewer) {
         const std::wstring name = fields.Text();
         bool isKnown = false;
+        int place = 0;
         VisitSettings(data.settings, [&](std::string_view key, auto& value) {
+            ++place;
             if (std::equal(key.begin(), key.end(), name.begin(), name.end())) {
                 isKnown = true;
+                data.m_settingsRead.push_back(place);
                 ReadValue{fields}(value);
             }
         });
+        data.hasSettings = true;
         return (isKnown || isNewer) && fields.Good();
     }
-    static void Clear(QuorlData& data) { data.settings = {}; }
-    static std::vector<int> Refs(const QuorlData& /*data*/) { return {}; }
+    static void Clear(QuorlData& data) {
+        data.settings = {};
+        data.hasSettings = false;
+        data.m_settingsRead.clear();
+    }
+    /// The settings count as records: none may stand there twice.
+    static std::vector<int> Refs(const QuorlData& data) {
+        std::vector<int> places = data.m_settingsRead;
+        std::sort(places.begin(), places.end());
+        return places;
+    }
+    static bool IsCount(int count) { return count == Count({}); }
 };
+
+namespace {
 
 /// A list of records, one to a line.
 template <auto kList>
@@ -100,6 +118,7 @@ struct RecordModule {
         return (data.*kList).emplace_back().Read(fields);
     }
     static void Clear(QuorlData& data) { (data.*kList).clear(); }
+    static bool IsCount(int /*count*/) { return true; }
     static std::vector<int> Refs(const QuorlData& data) {
         std::vector<int> refs;
         for (const Record& record : data.*kList) {
@@ -119,11 +138,13 @@ struct Module {
     void (*clear)(QuorlData& data);
     /// Reference numbers of the records, sorted.
     std::vector<int> (*refs)(const QuorlData& data);
+    /// Whether a module of this version may have so many records.
+    bool (*isCount)(int count);
 };
 
 template <class Of>
 constexpr Module MakeModule(std::string_view name) {
-    return {name, &Of::Count, &Of::Write, &Of::Read, &Of::Clear, &Of::Refs};
+    return {name, &Of::Count, &Of::Write, &Of::Read, &Of::Clear, &Of::Refs, &Of::IsCount};
 }
 
 constexpr std::array kModules = {
@@ -201,8 +222,10 @@ private:
         if (version > kVersion) {
             AddOnce(m_report.warnings, name);
         }
-        const bool isGood = isFirst && fields.Good() && (fields.AtEnd() || version > kVersion) &&
-                            ReadRecords(*found, count, version > kVersion, more);
+        const bool isNewer = version > kVersion;
+        const bool isGood = isFirst && fields.Good() &&
+                            (isNewer || (fields.AtEnd() && found->isCount(count))) &&
+                            ReadRecords(*found, count, isNewer, more);
         if (!isGood) {
             found->clear(m_data);
             AddOnce(m_report.errors, name);

@@ -47,10 +47,6 @@ std::wstring HostServices::UserName() const {
     return {};
 }
 
-std::wstring HostServices::Notice() const {
-    return {};
-}
-
 HostServices& Host() {
     static ConsoleHost standAlone;
     HostServices* services = currentHost.load();

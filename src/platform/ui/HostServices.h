@@ -37,9 +37,6 @@ public:
 
     /// Name of the user of the session, as the model's history records it. Empty by default.
     virtual std::wstring UserName() const;
-
-    /// The program's notice of rights, as titles of output show it. Empty by default.
-    virtual std::wstring Notice() const;
 };
 
 /// The services in force in this process.

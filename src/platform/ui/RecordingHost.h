@@ -32,7 +32,6 @@ public:
     std::optional<std::tm> clock;
     std::optional<std::wstring> listSeparator;
     std::wstring userName;
-    std::wstring notice;
 
     void ShowMessage(const std::wstring& text) override { events.push_back({Kind::Message, text}); }
 
@@ -55,7 +54,6 @@ public:
     }
     std::tm LocalTime() const override { return clock ? *clock : HostServices::LocalTime(); }
     std::wstring UserName() const override { return userName; }
-    std::wstring Notice() const override { return notice; }
 
     /// The texts of one kind, in order.
     std::vector<std::wstring> Texts(Kind kind) const {

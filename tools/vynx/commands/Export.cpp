@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "platform/text/Utf8.h"
 #include "vynx/Console.h"
 #include "vynx/Format.h"
 #include "vynx/SaveModel.h"
@@ -16,6 +17,16 @@ std::string StemOf(const std::string& model) {
     return fs::path(model).stem().string();
 }
 
+/// Reads the model; files tell what they were made from, by the model's own file name or this one.
+void Load(const ModelSource& source, Tevra::CVynData& model) {
+    LoadToWrite(source, model);
+    Tevra::CTitles titles = model.Title();
+    if (titles.FileName().empty()) {
+        titles.SetFileName(Tevra::Text::FromUtf8(source.file));
+        model.SetTitle(std::move(titles));
+    }
+}
+
 void ExportOne(const ExportRequest& request) {
     const Format* format = FindFormat(request.format);
     if (format == nullptr || format->write == nullptr) {
@@ -24,7 +35,7 @@ void ExportOne(const ExportRequest& request) {
     }
     const OptionValues options(format->id, format->options, request.options);
     Tevra::CVynData model;
-    LoadToWrite(request.model, model);
+    Load(request.model, model);
     SaveModel(*format, options, model, request.output, request.model.file);
 }
 
@@ -62,7 +73,7 @@ void ExportAll(const ExportRequest& request) {
                                   ": --to all writes every format with its defaults");
     }
     Tevra::CVynData model;
-    LoadToWrite(request.model, model);
+    Load(request.model, model);
     std::error_code error;
     fs::create_directories(request.output, error);
     if (!fs::is_directory(request.output)) {

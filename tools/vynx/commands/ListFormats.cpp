@@ -23,17 +23,10 @@ void PrintHostTable() {
     }
 }
 
-std::string Direction(const Format& format) {
-    if (format.read != nullptr && format.write != nullptr) {
-        return "read and written";
-    }
-    return format.read != nullptr ? "read" : "written";
-}
-
 void PrintOption(const OptionSpec& option) {
     const std::string value = ValueName(option);
     std::cout << "      " << std::left << std::setw(22)
-              << "--" + std::string(option.name) + (value.empty() ? "" : " " + value)
+              << "--" + std::string(option.name) + (value.empty() ? "" : " " + value) + " "
               << option.help;
     if (!option.fallback.empty()) {
         std::cout << " (" << option.fallback << ")";
@@ -48,7 +41,7 @@ void ListFormats() {
     std::cout << "\nFormats of vynx\n";
     for (const Format& format : Formats()) {
         std::cout << "  " << std::left << std::setw(12) << format.id << format.title << ", "
-                  << Direction(format) << ",";
+                  << DirectionOf(format) << ",";
         for (const std::string_view extension : format.extensions) {
             std::cout << ' ' << extension;
         }

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "pile/QuorlFile.h"
 #include "platform/ui/HostServices.h"
 #include "platform/ui/Logger.h"
@@ -34,14 +36,28 @@ std::string Lacks(const CVynData& model, const OptionValues& options) {
     return {};
 }
 
+/// A note on the loads on the soil that belong to other cases than the one that is written.
+std::wstring LoadsLeftOut(const CVynData& model, int loadCase) {
+    const auto numbers = model.SoilRectLoadTable().Numbers();
+    const auto count = std::count_if(numbers.begin(), numbers.end(), [&](int number) {
+        return model.SoilRectLoad(number).Get().loadCase != loadCase;
+    });
+    return count == 0
+               ? L""
+               : L"Note: loads on the soil of other cases than " + std::to_wstring(loadCase) +
+                     L", which are not written: " + std::to_wstring(count);
+}
+
 bool Write(ExportJob& job) {
     const std::vector<int> cases = RaftCases(job.model);
     const int given = job.options.Integer("case");
     const int first = cases.empty() ? 1 : cases.front();
+    const int number = given != 0 ? given : first;
     Tevra::Logger logger;
-    Tevra::CQuorlFile file(job.model, &logger, Tevra::Text::FromPath(job.path),
-                           given != 0 ? given : first, static_cast<int>(cases.size()),
+    Tevra::CQuorlFile file(job.model, &logger, Tevra::Text::FromPath(job.path), number,
+                           static_cast<int>(cases.size()),
                            job.options.Text("method") == kBoussinesq);
+    job.log = LoadsLeftOut(job.model, number);
     return file.DoExport();
 }
 

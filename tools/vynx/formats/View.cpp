@@ -27,7 +27,7 @@ std::string UnknownData(const COpView& view) {
     for (const Tevra::Data::CDataRef& item : view.Data()) {
         if (Tevra::Output::FindProvider(item.Kind()) == nullptr) {
             return "the view shows \"" + Tevra::Text::ToUtf8(item.Kind()) +
-                   "\", which are no data that it knows";
+                   "\", which nothing provides";
         }
     }
     return {};
