@@ -7,12 +7,13 @@ FUZZ_SECONDS ?= 30
 BASE ?=
 LINT_MINUTES ?=
 
-.PHONY: help setup demo test bench format format-check lint fuzz docs install clean
+.PHONY: help setup demo test bench bench-parts format format-check lint fuzz docs install clean
 
 help:
 	@echo 'make demo          build vynx, write the example models in every format to out/'
 	@echo 'make test          build and run all tests, with sanitizers'
-	@echo 'make bench         build and run the benchmarks'
+	@echo 'make bench         every writer and reader on models of up to a million nodes; out/bench.md'
+	@echo 'make bench-parts   benchmarks of single parts'
 	@echo 'make fuzz          run the fuzz targets, FUZZ_SECONDS=$(FUZZ_SECONDS) each'
 	@echo 'make format        lay out the sources as .clang-format says'
 	@echo 'make format-check  name the sources that are laid out otherwise'
@@ -38,6 +39,12 @@ test: setup
 	ctest --preset dev -j2
 
 bench: setup
+	@scripts/setup gmsh || echo 'bench: without the mesh generator'
+	cmake --preset bench
+	cmake --build --preset bench --target vyn_bench
+	build/bench/bin/vyn_bench -o out/bench.md
+
+bench-parts: setup
 	cmake --preset bench
 	cmake --build --preset bench
 	@set -e; for program in build/bench/bin/vyn_bench_*; do \

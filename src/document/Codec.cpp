@@ -123,7 +123,8 @@ bool NumbersOf(const std::string& text, Json& numbers) {
             return false;
         }
         numbers.push_back(number);
-        again += (again.empty() ? "" : " ") + std::to_string(number);
+        again += again.empty() ? "" : " ";
+        again += std::to_string(number);
         at = stop == end ? stop : stop + 1;
     }
     return again == text;

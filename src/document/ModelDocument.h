@@ -10,6 +10,11 @@
 
 /// The whole model as a JSON document, in and out. Documents are read and written record by
 /// record, so that they take little memory besides the model.
+///
+///     std::string error;
+///     if (!Document::ReadDocument("frame.json", model, error)) {
+///         Show(error);
+///     }
 namespace Tevra::Document {
 
 /// Reads a document into `model`, which it replaces. False when the document can't be read; then

@@ -14,6 +14,11 @@ class TextOut;
 /// damping of chosen modes of the same model, and their shapes at chosen nodes. Its text lines
 /// begin with "$", so that programs that do not know it take it for comments.
 ///
+///     CCeapDampingFile writer;
+///     writer.SetData(&model);
+///     writer.SetDamping(0.01);
+///     const bool written = writer.OpenWrite(L"model.damping.txt");
+///
 /// The modes are those of the first modal task that has been analysed. `OpenWrite` is false, and
 /// the file stays empty, when there is no such task, no node or no mode.
 class CCeapDampingFile : public CStreamFile {

@@ -42,6 +42,11 @@ enum class DynaPart : int {
 
 /// Writes one explicit dynamics task of the model as an LS-DYNA keyword file, in SI units.
 ///
+///     CDynaAnalysis writer;
+///     writer.SetData(&model);
+///     writer.SetTask(CDynaAnalysis::FirstTask(model));
+///     const bool written = writer.OpenWrite(L"model.key");
+///
 /// The sections stand in files named for what they write: DynaWriteControl, DynaWriteParts,
 /// DynaWriteNodes, DynaWriteExcitation, DynaWriteMaterials, DynaWriteElements,
 /// DynaWriteLineElements, DynaWriteMasses, DynaWriteSections, DynaWriteSprings, DynaWriteSets,

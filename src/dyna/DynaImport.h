@@ -34,6 +34,12 @@ struct DynaReport {
 /// *ELEMENT_BEAM, _SHELL, _SOLID, _DISCRETE, _MASS and _INERTIA, in fixed columns of standard
 /// width. All other keywords are skipped and counted.
 ///
+///     CDynaImport reader;
+///     reader.SetData(&model);
+///     if (!reader.OpenRead(L"deck.key")) {
+///         Show(reader.Line(), reader.Error());
+///     }
+///
 /// Numbers of the file are numbers of the model, part numbers become property numbers, and values
 /// come as they stand, whatever their units. Entities go into the model while the file is read:
 /// when it is refused, those above the failing line stay.

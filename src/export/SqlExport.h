@@ -8,6 +8,11 @@ namespace Tevra::Export {
 
 /// Tables as SQL: a CREATE TABLE statement each, and an INSERT INTO statement for each record.
 ///
+///     Export::CSqlExport exporter;
+///     exporter.SetData(&model);
+///     exporter.SetPath("job.sql");
+///     const bool written = exporter.WriteTables();  // the tables in job/
+///
 /// The name of a table is quoted where it is declared and bare where records are inserted, and
 /// texts are not escaped, as in the files that hosts read today.
 class CSqlExport : public CVynExport {

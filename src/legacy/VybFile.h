@@ -11,6 +11,11 @@ class CVynData;
 
 /// Reads the binary model file (.vyb) that version 6 of the host program wrote into a model.
 ///
+///     std::wstring messages;
+///     CVybFile reader(model);
+///     reader.SetSwop(true);  // written on a machine of the other byte order
+///     const bool read = reader.OpenRead(L"old.vyb", messages);
+///
 /// The two lock objects of the model are held for the whole read. When a file that could be opened
 /// is refused, a message box says why (a file too short for its first texts has none) and the model
 /// is an empty one afterwards; when the file can't be opened or a lock is held elsewhere for 200

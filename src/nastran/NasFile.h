@@ -24,6 +24,14 @@ struct LoadedFace;
 /// Writes the model as one NASTRAN input file: executive control, case control with a subcase for
 /// each load case and each combination, and bulk data in fixed fields.
 ///
+///     CNasFile writer;
+///     writer.SetData(&model);
+///     writer.SetAnalysisType(CNasFile::kModes);
+///     writer.SetNumModes(10);
+///     if (!writer.OpenWrite(L"model.dat")) {
+///         Show(writer.ErrorLog());
+///     }
+///
 /// The sections stand in files named for what they write: NasCaseControl, NasCards (the card
 /// primitives), NasGrids, NasElements, NasLineElements, NasMaterials, NasProperties,
 /// NasAreaProperties, NasConstraints, NasLoads, NasBeamLoads, NasFaceLoads, NasTemperatures.

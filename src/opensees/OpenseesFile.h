@@ -10,6 +10,11 @@ struct OpsContext;
 /// Writes the model and one of its load cases as a Tcl script of OpenSees commands, for a
 /// three-dimensional model with six freedoms per node, in SI units.
 ///
+///     COpenseesFile writer;
+///     writer.SetData(&model);
+///     writer.SetLoadCase(2);
+///     const bool written = writer.OpenWrite(L"model.tcl");
+///
 /// The sections stand in files named for what they write: OpsMaterials, OpsSections (with
 /// OpsFibres, the layout of fibres), OpsElements, OpsConstraints, OpsLoads.
 ///

@@ -10,6 +10,11 @@
 namespace Tevra {
 
 /// Writes an output view of a model, a table of its data or results, to a delimited text file.
+///
+///     OutputExport output(model);
+///     output.SetFileName("deck.csv");
+///     output.SetOutputSpec(&model.View(1));
+///     const bool written = output.Export() && output.IsComplete();
 class OutputExport {
 public:
     /// The model is not owned, and not changed.

@@ -95,23 +95,6 @@ void AddDofs(RecordText& line, Vbool6 directions, const std::array<Direction, 6>
     line.Cut(',');
 }
 
-namespace {
-
-std::vector<int> Placed(const CVynData& model, std::vector<int> nodes) {
-    std::erase_if(nodes, [&](int node) { return !IsPlaced(model, node); });
-    return nodes;
-}
-
-}  // namespace
-
-std::vector<int> SapLoadedNodes(const CVynData& model, const Data::CLoadBase& load) {
-    return Placed(model, load.LoadedNodes(model));
-}
-
-std::vector<int> SapJointsWithMass(const SapContext& c, const Data::CGravityLoad& load) {
-    return Placed(c.model, load.LoadedNodes(c.model));
-}
-
 std::vector<int> SapLoadedFrames(const SapContext& c, const Data::CLoadBase& load) {
     return LoadedElements(c, load, 1, [](SapBlock block) { return block == SapBlock::Frame; });
 }

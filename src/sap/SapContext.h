@@ -60,9 +60,15 @@ inline constexpr std::array<std::string_view, 6> kSapDofs{"U1", "U2", "U3", "R1"
 /// word.
 void AddDofs(RecordText& line, Vbool6 directions, const std::array<Direction, 6>& order);
 
-/// Nodes of a list, and elements of a dimension, that a load acts on and that are in the file.
-std::vector<int> SapLoadedNodes(const CVynData& model, const Data::CLoadBase& load);
-std::vector<int> SapJointsWithMass(const SapContext& c, const Data::CGravityLoad& load);
+/// Nodes that a load acts on and that are in the file; of gravity those with mass.
+template <class Load>
+std::vector<int> SapLoadedNodes(const CVynData& model, const Load& load) {
+    std::vector<int> nodes = load.LoadedNodes(model);
+    std::erase_if(nodes, [&](int node) { return !IsPlaced(model, node); });
+    return nodes;
+}
+
+/// Elements of a dimension that a load acts on and that are in the file.
 std::vector<int> SapLoadedFrames(const SapContext& c, const Data::CLoadBase& load);
 std::vector<int> SapLoadedFaces(const SapContext& c, const Data::CLoadBase& load);
 

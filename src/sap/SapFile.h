@@ -15,6 +15,11 @@ class CSection;
 /// Writes the model as a SAP2000 S2K text file: blocks of a keyword and indented lines of key=value
 /// items, in metres and newtons.
 ///
+///     CSapFile writer;
+///     writer.SetData(&model);
+///     writer.SetLocaleMode(CSapFile::kGeneral);
+///     const bool written = writer.OpenWrite(L"model.s2k");
+///
 /// The blocks stand in files named for what they write: SapJoints (coordinates, joints), SapFrames,
 /// SapElements (the other elements), SapSections, SapMaterials (with springs and shells),
 /// SapConstraints, SapLoads (the order of the cases, gravity, loads at joints), SapSpanLoads,

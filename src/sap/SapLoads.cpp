@@ -98,7 +98,7 @@ bool CSapFile::WriteGravity(SapContext& c, int loadCase) {
         {"SHELL",
          [](const SapContext& in, const Data::CGravityLoad& l) { return SapLoadedFaces(in, l); }},
         {"JOINT", [](const SapContext& in,
-                     const Data::CGravityLoad& l) { return SapJointsWithMass(in, l); }},
+                     const Data::CGravityLoad& l) { return SapLoadedNodes(in.model, l); }},
     };
     for (const auto& [word, entities] : groups) {
         bool hasHeader = false;

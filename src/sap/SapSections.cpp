@@ -21,6 +21,7 @@ struct ShapeItem {
     std::string_view key;
     std::string_view dimensions;  ///< their indices
 };
+constexpr ShapeItem kAngle{SectionClass::Angle, StandardCode::Angle, "SH=L T=", "013213"};
 constexpr ShapeItem kShapes[] = {
     {SectionClass::Rectangle, StandardCode::Rectangular, "SH=R T=", "01"},
     {SectionClass::Box, StandardCode::Rectangular, "SH=B T=", "0132"},
@@ -31,7 +32,7 @@ constexpr ShapeItem kShapes[] = {
     {SectionClass::UnequalI, StandardCode::UnequalI, "SH=I T=", "013246"},
     {SectionClass::Channel, StandardCode::Channel, "SH=C T=", "0132"},
     {SectionClass::Tee, StandardCode::Tee, "SH=T T=", "0132"},
-    {SectionClass::Angle, StandardCode::Angle, "SH=L T=", "013213"},
+    kAngle,
 };
 
 /// Codes of rectangles and rounds have two shapes each, which their classes tell apart.
@@ -61,11 +62,6 @@ void AddShapeItem(RecordText& line, const ShapeItem& item, const Data::CSecGeom&
     line.Cut(',').Append(' ');
 }
 
-/// Kept: a tee is followed by an angle of the same dimensions.
-void AddAngleOfTee(RecordText& line, const Data::CSecGeom& geometry) {
-    AddShapeItem(line, std::end(kShapes)[-1], geometry);
-}
-
 }  // namespace
 
 void CSapFile::AddShape(RecordText& line, const Data::CSection& section) const {
@@ -84,7 +80,7 @@ void CSapFile::AddShape(RecordText& line, const Data::CSection& section) const {
     }
     AddShapeItem(line, *item, geometry);
     if (item->shapeClass == SectionClass::Tee) {
-        AddAngleOfTee(line, geometry);
+        AddShapeItem(line, kAngle, geometry);  // kept: a tee is an angle too
     }
 }
 
