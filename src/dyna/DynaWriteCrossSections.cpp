@@ -43,7 +43,7 @@ bool CDynaAnalysis::WriteCrossSections() {
         if (places.empty()) {
             Skip(L"Assembly", number, L"it has neither cuts nor storeys");
         }
-        const CAssemblyElements elements(*m_model, assembly);
+        const CAssemblyElements elements(*m_model, assembly, CutScope::All);
         for (const double place : places) {
             const CutPlane plane = CutPlane::Of(*m_model, assembly, true, place);
             if (!WriteCrossSection(number, elements, plane)) {

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <iterator>
 
 #include "dyna/DynaAnalysis.h"
 #include "dyna/DynaCards.h"
@@ -79,6 +80,10 @@ bool CDynaAnalysis::WriteExcitation() {
         WriteExcitationCurve(curve);
     }
     m_out->Keyword(kPrescribedMotion);
+    if (std::none_of(std::begin(kTranslations), std::end(kTranslations),
+                     [this](Direction d) { return ExcitationCurve(d) != 0; })) {
+        AddNote(L"The excitation drives nothing: no direction has a curve that exists");
+    }
     for (const int node : Listed(m_task->BaseList(), SelType::Node)) {
         for (const Direction d : kTranslations) {
             if (const int curve = ExcitationCurve(d); curve != 0) {

@@ -76,9 +76,9 @@ void CDynaAnalysis::WriteFaceLoad(int number, const std::vector<int>& elements, 
         }
     }
     if (left > 0) {
-        Skip(L"Face load", number,
-             L"on " + std::to_wstring(left) +
-                 L" elements that have no such face, or one without area");
+        AddNote(L"Face load", number,
+                L"is not written on elements that have no such face, or one without area: " +
+                    std::to_wstring(left));
     }
     if (!isAlong) {
         AddNote(L"Face load", number, L"keeps the component along the normals of its faces");

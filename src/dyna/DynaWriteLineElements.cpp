@@ -24,12 +24,10 @@ struct ReleaseCodes {
     int rotations = 0;
 };
 
-int CodeOf(unsigned directions) {
-    int code = 0;
-    while (kDynaDirections[static_cast<std::size_t>(code)] != directions) {
-        ++code;  // the table has all eight sets of directions
-    }
-    return code;
+int ReleaseCode(unsigned directions) {
+    // The table has all eight sets of directions.
+    const auto* const found = std::find(kDynaDirections.begin(), kDynaDirections.end(), directions);
+    return static_cast<int>(found - kDynaDirections.begin());
 }
 
 bool IsOnSpring(const Data::CElemConnect& connect) {
@@ -39,7 +37,7 @@ bool IsOnSpring(const Data::CElemConnect& connect) {
 
 ReleaseCodes CodesOf(const Data::CElemConnect& connect) {
     const unsigned released = connect.Released().Bits();
-    return {CodeOf(released & 7U), CodeOf(released >> 3U)};
+    return {ReleaseCode(released & 7U), ReleaseCode(released >> 3U)};
 }
 
 }  // namespace

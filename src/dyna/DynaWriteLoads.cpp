@@ -7,7 +7,7 @@
 #include "dyna/DynaElementLoop.h"
 #include "dyna/DynaOut.h"
 #include "model/LoadForces.h"
-#include "model/Util.h"
+#include "model/LoadValues.h"
 #include "model/VynData.h"
 
 // Loads at nodes, along beams, and gravity. Kept: each refers to its load case as the number of a
@@ -87,9 +87,7 @@ void CDynaAnalysis::WriteBeamLoad(int number, bool& isFirst) {
     for (const int element : load.GetLoadedElements(*m_model, 1)) {
         const Data::CElement& record = m_model->Elem(element);
         const LoadedLine line = LoadedLine::Of(*m_model, element);
-        const DynaPart kind = KindOf(record);
-        if ((kind != DynaPart::Beam && kind != DynaPart::Cable) || !HasNodes(record) ||
-            !(line.length > 0.0)) {
+        if (KindOf(record) != DynaPart::Beam || !HasNodes(record) || !(line.length > 0.0)) {
             ++left;
             continue;
         }
@@ -97,8 +95,9 @@ void CDynaAnalysis::WriteBeamLoad(int number, bool& isFirst) {
         WriteBeamComponents(load.LoadCase(), element, mean, isFirst);
     }
     if (left > 0) {
-        Skip(L"Beam load", number,
-             L"on " + std::to_wstring(left) + L" elements that are no beams or have no length");
+        AddNote(L"Beam load", number,
+                L"is not written on elements that are no beams or have no length: " +
+                    std::to_wstring(left));
     }
     if (load.TypeOf() != BeamLoadType::Uniform) {
         AddNote(L"Beam load", number, L"is written as a uniform load of the same sum");
@@ -135,9 +134,7 @@ bool CDynaAnalysis::WriteGravity() {
                 m_out->Line<kGravityX>(load.LoadCase(), load.Value()[k] * -kGravity);
             }
         }
-        const CEntList& list = load.LoadedEntities();
-        if (list.TypeOf() != SelType::Element ||
-            Util::NumItem(list, *m_model, -1, true) < m_model->NumElem()) {
+        if (!ActsOnAll(*m_model, load)) {
             AddNote(L"Gravity load", number, L"acts on the whole model, not on its elements alone");
         }
         if (directions > 1) {

@@ -59,6 +59,9 @@ void CDynaAnalysis::WriteNodeMass(int node, const Data::CMassProp& mass) {
     }
     const TensSym3<double>& i = mass.Inertia();
     m_out->Card<kInertia>(number, node, AxisNumber(m_model->Node(node).Axis()));
+    if (AxisNumber(mass.Axis()) != AxisNumber(m_model->Node(node).Axis())) {
+        AddNote(L"Mass at node", node, L"is written in the axes of the node, not in its own");
+    }
     m_out->Line<kInertia, 1>(i.xx, i.xy, i.zx, i.yy, i.yz, i.zz, mass.Mass());
 }
 

@@ -32,7 +32,6 @@ constexpr int kWidth = 10;
 
 using M = MatModel;
 
-constexpr std::string_view kSixIntegers = "0 0 0 0 0 0";
 constexpr std::string_view kSixZeros = "0.0 0.0 0.0 0.0 0.0 0.0";
 constexpr std::string_view kSevenZeros = "0.0 0.0 0.0 0.0 0.0 0.0 0.0";
 constexpr std::string_view kEightZeros = "0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0";
@@ -71,8 +70,9 @@ constexpr DynaMaterialCard kCards[] = {
     {M::ParkAngBeam, "*MAT_PARK_ANG_BEAM", {"id p2 p0 p1 p7 p5", "m0 m1 m2 m3 m4 m5 m6 m7"}},
     {M::GeneralNonlinear6Dof,
      "*MAT_GENERAL_NONLINEAR_6DOF_DISCRETE_BEAM",
-     {"id p2 m0 m1 0 m2 m3 0", "c0 c1 c2 c3 c4 c5", kSixIntegers, kSixIntegers, kSixIntegers,
-      kSixZeros, kSixZeros, kSixZeros}},
+     {"id p2 m0 m1 0 m2 m3 0", "c0 c1 c2 c3 c4 c5", "c6 c7 c8 c9 c10 c11",
+      "c12 c13 c14 c15 c16 c17", "c18 c19 c20 c21 c22 c23", "m4 m5 m6 m7 m8 m9",
+      "m10 m11 m12 m13 m14 m15", "m16 m17 m18 m19 m20 m21"}},
     {M::SeismicIsolator,
      "*MAT_SEISMIC_ISOLATOR",
      {"id p2 m0 m1 m2 m3 m4 0", "m5 m6 m7 m8 m9 m10 m11 0", "m12 m13 m14 m15 m16 m17 m18 m19",
@@ -104,6 +104,19 @@ Number NumberOf(std::string_view text) {
     Number value{};
     std::from_chars(text.data(), text.data() + text.size(), value);
     return value;
+}
+
+/// How many values of a kind (`m` or `r` parameters, `c` curves) a card takes.
+std::size_t NumTaken(const DynaMaterialCard& card, std::string_view kinds) {
+    std::size_t count = 0;
+    for (const std::string_view line : card.lines) {
+        ForEachCell(line, [&](std::string_view cell) {
+            if (kinds.find(cell.front()) != std::string_view::npos) {
+                count = std::max(count, NumberOf<std::size_t>(cell.substr(1)) + 1);
+            }
+        });
+    }
+    return count;
 }
 
 /// nu_ba of nu_ab: stiffness times strain is alike both ways.
@@ -198,6 +211,10 @@ bool CDynaAnalysis::WriteMaterials() {
         const Data::CMatAnal& material = m_model->MatAnal(number);
         if (const DynaMaterialCard* const card = CardOf(material.Model()); card != nullptr) {
             WriteMaterial(*card, material.Name(), material, number);
+            if (material.ModelParams().size() > NumTaken(*card, "mr") ||
+                material.Curves().size() > NumTaken(*card, "c")) {
+                AddNote(L"Material", number, L"has more parameters or curves than its card takes");
+            }
         }
     }
     return true;

@@ -58,7 +58,9 @@ int CDynaAnalysis::DesignMaterial(const DesignGrade& grade) {
     const int part = static_cast<int>(m_parts.size()) + 1;
     const NumberedTable<Data::CMatDesign>* const family = m_model->DesignTable(grade.first);
     if (family == nullptr || !family->Exist(grade.second)) {
-        AddNote(L"Part", part, L"has a material that is not in the file: its property has none");
+        AddNote(L"Part", part,
+                L"has a material that is not in the file: its property has none, or layers with "
+                L"their own");
     } else if (!isNew) {
         AddNote(L"Part", part,
                 L"has a material that is not in the file: its design grade is there as material " +

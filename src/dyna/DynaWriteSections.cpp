@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -52,6 +53,13 @@ constexpr StandardSection kStandardSections[] = {
     {12, {SC::Cruciform, SC::None}, {{{1, 1.0, 2}, {2}, {0}, {3}, {}, {}}}},
 };
 
+bool HasSeveralMaterials(const Data::CSection& section) {
+    const auto& components = section.Components();
+    return std::any_of(components.begin(), components.end(), [&](const Data::CSecComp& component) {
+        return !(component.Material() == components.front().Material());
+    });
+}
+
 std::wstring Shortened(const std::wstring& title) {
     constexpr std::wstring_view kDots = L"...";
     return title.size() > kLongestTitle
@@ -84,6 +92,10 @@ void CDynaAnalysis::WriteBeamSection(int section, int part) {
                     L"is written by the shape of its first component, without modifiers");
         }
         return;
+    }
+    if (HasSeveralMaterials(record)) {
+        AddNote(L"Section", section,
+                L"is written with the material of its first component for all of them");
     }
     // Second moments about the solver's s and t, which are our y and z.
     const SectionProperties p = m_model->SectionProp(section, 0, 0.0, true);

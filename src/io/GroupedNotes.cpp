@@ -1,6 +1,8 @@
 #include "io/GroupedNotes.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace Tevra {
 
@@ -8,6 +10,18 @@ namespace {
 
 /// Ranges of numbers that a sentence names; the rest are counted.
 constexpr std::size_t kMostRanges = 20;
+
+/// What is said of one, said of several.
+std::wstring Plural(const std::wstring& what) {
+    constexpr std::pair<std::wstring_view, std::wstring_view> kVerbs[] = {
+        {L"is ", L"are "}, {L"has ", L"have "}, {L"acts ", L"act "}, {L"keeps ", L"keep "}};
+    for (const auto& [one, several] : kVerbs) {
+        if (what.starts_with(one)) {
+            return std::wstring(several) + what.substr(one.size());
+        }
+    }
+    return what;
+}
 
 }  // namespace
 
@@ -55,9 +69,8 @@ std::vector<std::wstring> CGroupedNotes::Sentences() const {
     for (const Group& group : m_groups) {
         const bool isOne =
             group.numbers.size() == 1 && group.numbers[0].first == group.numbers[0].last;
-        const bool isIs = group.what.starts_with(L"is ");
         sentences.push_back(group.kind + L" " + NumbersOf(group) + L" " +
-                            (isIs && !isOne ? L"are " + group.what.substr(3) : group.what));
+                            (isOne ? group.what : Plural(group.what)));
     }
     return sentences;
 }

@@ -223,7 +223,8 @@ private:
 
 }  // namespace
 
-CAssemblyElements::CAssemblyElements(const CVynData& model, const Data::CAssembly& assembly) {
+CAssemblyElements::CAssemblyElements(const CVynData& model, const Data::CAssembly& assembly,
+                                     CutScope scope) {
     const CutPlane start = CutPlane::Of(model, assembly, true, 0.0);
     if (!start.isValid) {
         return;
@@ -236,7 +237,8 @@ CAssemblyElements::CAssemblyElements(const CVynData& model, const Data::CAssembl
         const bool isIn =
             list.IsEmpty() ||
             items.Test(list.TypeOf() == SelType::Member ? element.ParentMember() : number);
-        if (!isIn || !Carries(model, element) || !HasItsNodes(model, element)) {
+        const bool counts = scope == CutScope::All || Carries(model, element);
+        if (!isIn || !counts || !HasItsNodes(model, element)) {
             continue;
         }
         Range range{0.0, 0.0, number};

@@ -44,11 +44,18 @@ struct CutElement {
     std::vector<CutCorner> corners;
 };
 
-/// The elements that carry something in an assembly, by where they lie along its line: found once,
-/// they serve any number of cuts. Dummy elements, dampers and load panels carry nothing.
+/// Which elements of an assembly a cut meets.
+enum class CutScope {
+    Carrying,  ///< those that carry something: no dummy elements, dampers, load panels
+    All
+};
+
+/// The elements of an assembly, by where they lie along its line: found once, they serve any number
+/// of cuts.
 class CAssemblyElements {
 public:
-    CAssemblyElements(const CVynData& model, const Data::CAssembly& assembly);
+    CAssemblyElements(const CVynData& model, const Data::CAssembly& assembly,
+                      CutScope scope = CutScope::Carrying);
 
     /// Numbers of the elements that a plane at a place of the line (m from node 1) can meet,
     /// ascending.

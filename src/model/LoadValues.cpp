@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/Util.h"
 #include "model/VynData.h"
 
 namespace Tevra {
@@ -55,6 +56,16 @@ Vec3<double> UnitBeamLoad(const CVynData& model, const Data::CBeamLoad& load, in
 
 Vec3<double> MiddleOf(const CVynData& model, const Data::CElement& element) {
     return (model.TopoPosition(element, 1) + model.TopoPosition(element, 2)) * 0.5;
+}
+
+bool ActsOnAll(const CVynData& model, const Data::CGravityLoad& load) {
+    const CEntList& elements = load.LoadedEntities();
+    const auto nodes = model.NodeTable().Numbers();
+    return elements.TypeOf() == SelType::Element &&
+           Util::NumItem(elements, model, -1, true) >= model.NumElem() &&
+           std::count_if(nodes.begin(), nodes.end(), [&model](int node) {
+               return model.Node(node).MassProperty() > 0;
+           }) <= static_cast<std::ptrdiff_t>(load.LoadedNodes(model).size());
 }
 
 double PrestressForce(const Data::CAxialLoad& load, double e, double area, double length) {

@@ -32,6 +32,9 @@ Vec3<double> UnitBeamLoad(const CVynData& model, const Data::CBeamLoad& load, in
 /// The middle between the ends of a 1D element, m.
 Vec3<double> MiddleOf(const CVynData& model, const Data::CElement& element);
 
+/// Whether gravity acts on every element, and on every node with mass.
+bool ActsOnAll(const CVynData& model, const Data::CGravityLoad& load);
+
 /// Axial force (N, tension positive) of a prestress in a member that is held at both ends: a strain
 /// e is e E A, a lack of fit d is d E A / L.
 double PrestressForce(const Data::CAxialLoad& load, double e, double area, double length);

@@ -20,6 +20,10 @@ bool HasPlacedNodes(const CVynData& model, const Data::CElement& element) {
     return has;
 }
 
+bool HasLength(const CVynData& model, const Data::CElement& element) {
+    return Length(model.TopoPosition(element, 2) - model.TopoPosition(element, 1)) > 0.0;
+}
+
 bool HasPlacedNodes(const CVynData& model, const Data::CJoint& joint) {
     return IsPlaced(model, joint.Node(1)) && IsPlaced(model, joint.Node(2));
 }

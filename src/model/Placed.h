@@ -16,6 +16,8 @@ bool IsPlaced(const CVynData& model, int node);
 
 /// Whether an element has the nodes that its type needs, all of them placed.
 bool HasPlacedNodes(const CVynData& model, const Data::CElement& element);
+/// Whether the ends of a 1D element lie apart.
+bool HasLength(const CVynData& model, const Data::CElement& element);
 /// Whether both nodes of a joint are placed.
 bool HasPlacedNodes(const CVynData& model, const Data::CJoint& joint);
 

@@ -96,9 +96,13 @@ void LookAtProperties(Finder& f) {
 
 void LookAtDynamics(Finder& f, const CDynaTask& dyna) {
     const auto& curves = f.Model().LoadCurveTable();
-    f.Need(curves, L"load curve", dyna.LoadCurve());
-    for (const int curve : dyna.ExcitationNumbers()) {
-        f.Need(curves, L"load curve", curve);
+    // With one curve for all, the numbers by direction only tell which are shaken.
+    if (dyna.Excitation() == ExcitationOption::OneCurve) {
+        f.Need(curves, L"load curve", dyna.LoadCurve());
+    } else if (dyna.Excitation() == ExcitationOption::CurvePerDirection) {
+        for (const int curve : dyna.ExcitationNumbers()) {
+            f.Need(curves, L"load curve", curve);
+        }
     }
     f.LoadCase(dyna.Mass().loadCase);
     f.List(dyna.NodeSelection());

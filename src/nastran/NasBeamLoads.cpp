@@ -98,26 +98,24 @@ bool CNasFile::WriteBeamLoad(const Data::CBeamLoad& load) {
 
 /// A load in a user axis becomes one card for each of its global components. The words of projected
 /// loads project each component square to its own axis, so that a projected one is brought to the
-/// length of the beam before.
+/// length of the beam before; so is one in the axes of the element.
 void CNasFile::WriteBeamLoadOn(const Data::CBeamLoad& load, int element) {
     const Direction d = load.GetDirection();
-    const bool isProjected = load.IsProjected() && load.Axis() != kLocalAxis;
-    if (load.Axis() <= 0 || CoordinateSystem(load.Axis()) == 0) {
-        WriteBeamLoadCard(load, element, TypeWord(d, isProjected), 1.0);
+    const bool isLocal = load.Axis() == kLocalAxis;
+    if (!isLocal && CoordinateSystem(load.Axis()) == 0) {
+        WriteBeamLoadCard(load, element, TypeWord(d, load.IsProjected()), 1.0);
         return;
     }
-    const Data::CElement& record = m_model->Elem(element);
-    const Vec3<double> along = m_model->TopoPosition(record, 2) - m_model->TopoPosition(record, 1);
-    Vec3<double> local;
-    local[static_cast<int>(ToTrans(d))] = 1.0;
-    const Vec3<double> global =
-        m_model->AxisDC(load.Axis(), MiddleOf(*m_model, record)).LtoG(local);
-    const double sine = Length(Cross(along, global)) / Length(along);
-    for (int k = 0; k < 3; ++k) {
+    const Vec3<double> unit = UnitBeamLoad(*m_model, load, element);
+    const double share = Length(unit);
+    if (isLocal && share > kLeastShare) {
+        WriteBeamLoadCard(load, element, TypeWord(d, false), share);
+    }
+    const Vec3<double> global = m_model->ElemDC(element).LtoG(unit);
+    for (int k = 0; k < 3 && !isLocal; ++k) {
         if (std::abs(global[k]) > kLeastShare) {
             const auto component = static_cast<Direction>(IsTrans(d) ? k : k + 3);
-            WriteBeamLoadCard(load, element, TypeWord(component, false),
-                              global[k] * (isProjected ? sine : 1.0));
+            WriteBeamLoadCard(load, element, TypeWord(component, false), global[k]);
         }
     }
 }

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "model/Util.h"
 #include "model/VynData.h"
 #include "nastran/ComponentDigits.h"
@@ -10,10 +12,11 @@ namespace Tevra {
 bool CNasFile::WriteRigids() {
     StartSection("Rigid constraints");
     for (const int number : m_model->RigidTable().Numbers()) {
-        if (!m_model->RigidIsActive(number, m_selection)) {
+        const Data::CRigid& rigid = m_model->Rigid(number);
+        if (m_model->NodeExist(rigid.PrimaryNode()) &&
+            !m_model->RigidIsActive(number, m_selection)) {
             continue;
         }
-        const Data::CRigid& rigid = m_model->Rigid(number);
         SetSubject(L"Rigid constraint", number);
         CBitSet slaves = Util::Item(rigid.Nodes(), *m_model, -1, true);
         slaves.Set(rigid.PrimaryNode(), false);
@@ -45,7 +48,10 @@ bool CNasFile::WriteJoints() {
     StartSection("Joints");
     for (const int number : m_model->JointTable().Numbers()) {
         const Data::CJoint& joint = m_model->Joint(number);
-        if (!m_model->JointIsActive(number, m_selection) || joint.Freedom().IsNone()) {
+        const bool hasNodes =
+            m_model->NodeExist(joint.Node(1)) && m_model->NodeExist(joint.Node(2));
+        if ((hasNodes && !m_model->JointIsActive(number, m_selection)) ||
+            joint.Freedom().IsNone()) {
             continue;
         }
         SetSubject(L"Joint", number);
@@ -75,16 +81,19 @@ bool CNasFile::WriteJoints() {
 bool CNasFile::WriteConstraintEquations() {
     StartSection("Constraint equations");
     for (const int number : m_model->ConstraintEqnTable().Numbers()) {
-        if (!m_model->ConstraintEqnIsActive(number, m_selection)) {
+        const Data::CConstraintEqn& equation = m_model->ConstraintEqn(number);
+        const auto ofAllNodes = [&equation](auto holds) {
+            const auto& terms = equation.Terms();
+            return holds(equation.ConstrainedNode()) &&
+                   std::all_of(terms.begin(), terms.end(),
+                               [&](const Data::ConstraintTerm& term) { return holds(term.node); });
+        };
+        if (ofAllNodes([this](int node) { return m_model->NodeExist(node); }) &&
+            !m_model->ConstraintEqnIsActive(number, m_selection)) {
             continue;
         }
-        const Data::CConstraintEqn& equation = m_model->ConstraintEqn(number);
         SetSubject(L"Constraint equation", number);
-        bool hasNodes = IsNodeWritten(equation.ConstrainedNode());
-        for (const Data::ConstraintTerm& term : equation.Terms()) {
-            hasNodes = hasNodes && IsNodeWritten(term.node);
-        }
-        if (!hasNodes) {
+        if (!ofAllNodes([this](int node) { return IsNodeWritten(node); })) {
             Skip(L"one of its nodes is not in the file");
             continue;
         }

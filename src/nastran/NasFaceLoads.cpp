@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "model/LoadForces.h"
+#include "model/LoadValues.h"
 #include "model/VynData.h"
 #include "nastran/NasFile.h"
 
@@ -130,7 +131,8 @@ void CNasFile::AddFaceDirection(const Data::CFaceLoad& load, int element) {
     Vec3<double> direction;
     direction[static_cast<int>(load.GetDirection())] = 1.0;
     AddInt(CoordinateSystem(inElementAxes ? 0 : load.Axis()));
-    AddReals(inElementAxes ? m_model->ElemDC(element).AxisVec(load.GetDirection()) : direction);
+    AddReals(inElementAxes ? WithoutRoundOff(m_model->ElemDC(element).AxisVec(load.GetDirection()))
+                           : direction);
 }
 
 }  // namespace Tevra

@@ -1,3 +1,4 @@
+#include "model/LoadValues.h"
 #include "model/VynData.h"
 #include "nastran/ComponentDigits.h"
 #include "nastran/NasFile.h"
@@ -11,7 +12,7 @@ namespace {
 /// The orientation vector is the element's local z: plane 1 of the target is the host's x-z plane,
 /// its y is the host's z and its z the host's -y.
 Vec3<double> OrientationVector(const CVynData& model, int element) {
-    return model.ElemDC(element).AxisVec(2);
+    return WithoutRoundOff(model.ElemDC(element).AxisVec(2));
 }
 
 /// Offset of an end as OFFT "BGG" has it read: in the displacement axes of the end's node.

@@ -116,6 +116,9 @@ bool CNasFile::WriteGravity() {
         AddReal(kGravity);
         AddReals(load.Value());
         EndCard();
+        if (!ActsOnAll(*m_model, load)) {
+            AddNote(L"Gravity load", number, L"acts on the whole model, not on its elements alone");
+        }
     }
     return true;
 }

@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <vector>
 
+#include "model/ElasticModuli.h"
 #include "model/VynData.h"
 #include "nastran/NasFile.h"
 
@@ -23,7 +24,7 @@ std::vector<double> OrthotropicFields(const Data::CMatAnal& m) {
 
 /// Fields of a MAT1.
 std::vector<double> IsotropicFields(const Data::CMatAnal& m) {
-    return {m.E(), m.G(), m.Nu(), m.Density(), m.Alpha()};
+    return {ElasticModulus(m), ShearModulus(m), m.Nu(), m.Density(), m.Alpha()};
 }
 
 std::vector<double> FieldsOf(const Data::CMatAnal& m) {

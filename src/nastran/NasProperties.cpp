@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "model/ElasticModuli.h"
 #include "model/ShapeDim.h"
 #include "model/VynData.h"
 #include "nastran/NasFile.h"
@@ -289,7 +290,7 @@ void CNasFile::WriteGaps(int section) {
 /// of the first element that has the section.
 void CNasFile::WriteGap(int section, int element, bool isTie) {
     const Data::CMatAnal* material = MaterialOf(m_materials.Prop1D(section));
-    const double e = material != nullptr ? material->E() : 0.0;
+    const double e = material != nullptr ? ElasticModulus(*material) : 0.0;
     const double stiffness =
         e * m_model->SectionProp(section, 0, 0.0, true).area / m_model->ElemLen(element);
     StartCard("PGAP");

@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "model/ElasticModuli.h"
 #include "model/Faces.h"
 #include "model/LoadValues.h"
 #include "model/VynData.h"
@@ -62,7 +63,7 @@ bool CNasFile::WriteAxialLoads() {
 void CNasFile::WriteAxialLoad(const Data::CAxialLoad& load, int element) {
     const int section = m_model->Elem(element).Property();
     const Data::CMatAnal* material = MaterialOf(m_materials.Prop1D(section));
-    const double e = material != nullptr ? material->E() : 0.0;
+    const double e = material != nullptr ? ElasticModulus(*material) : 0.0;
     const double alpha = material != nullptr ? material->Alpha() : 0.0;
     const SectionProperties p = m_model->SectionProp(section, 0, 0.0, true);
     const bool hasBending = (load.ZOffset() == 0.0 || IsUsable(p.iyy * alpha)) &&
@@ -145,7 +146,7 @@ void CNasFile::WriteInPlaneLoad(const Data::CInPlaneLoad& load, int element) {
     const int number = m_model->Elem(element).Property();
     const Data::CProp2D& property = m_model->Prop2D(number);
     const Data::CMatAnal* material = MaterialOf(m_materials.Prop2D(number));
-    const double e = material != nullptr ? material->E() : 0.0;
+    const double e = material != nullptr ? ElasticModulus(*material) : 0.0;
     const double alpha = material != nullptr ? material->Alpha() : 0.0;
     const double t = property.InplaneThickness();
     const double bending = property.BendingThickness();

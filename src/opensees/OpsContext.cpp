@@ -66,10 +66,6 @@ OpsKind KindOf2D(Prop2DType type) {
     }
 }
 
-bool HasLength(const CVynData& model, const Data::CElement& element) {
-    return Length(model.TopoPosition(element, 2) - model.TopoPosition(element, 1)) > 0.0;
-}
-
 }  // namespace
 
 OpsKind KindOf(const CVynData& model, const Data::CElement& element) {

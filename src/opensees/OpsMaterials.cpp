@@ -118,31 +118,49 @@ struct Uniaxial {
     MatModel model;
     std::string_view type;
     bool hasFibres;
-    int leastValues;  ///< of those in the material's own order
+    /// How many values the command takes, of those in the material's own order; empty: it makes
+    /// them.
+    std::array<int, 4> counts;
     void (*write)(RecordText& out, const CMatAnal& material);
 };
 
-constexpr Uniaxial kElastic{MatModel::ElasticIsotropic, "Elastic", false, 0, WriteElastic};
-constexpr Uniaxial kPerfectlyPlastic{MatModel::ElasticPlastic, "ElasticPP", true, 0,
-                                     WriteElasticPlastic};
-constexpr Uniaxial kHardening{MatModel::ElasticPlastic, "Hardening", true, 0, WriteHardening};
+constexpr Uniaxial kElastic{MatModel::ElasticIsotropic, "Elastic", false, {}, WriteElastic};
+constexpr Uniaxial kPerfectlyPlastic{
+    MatModel::ElasticPlastic, "ElasticPP", true, {}, WriteElasticPlastic};
+constexpr Uniaxial kHardening{MatModel::ElasticPlastic, "Hardening", true, {}, WriteHardening};
 
 /// Models that are what the target has; all others are elastic, or plastic by their modulus.
 constexpr std::array kUniaxials = {
-    Uniaxial{MatModel::UniaxialElasticPP, "ElasticPP", true, 2, WriteParameters},
-    Uniaxial{MatModel::UniaxialHardening, "Hardening", true, 4, WriteParameters},
-    Uniaxial{MatModel::UniaxialHysteretic, "Hysteretic", true, 16, WriteParameters},
-    Uniaxial{MatModel::UniaxialViscous, "Viscous", false, 2, WriteParameters},
-    Uniaxial{MatModel::UniaxialConcrete01, "Concrete01", true, 4, WriteParameters},
-    Uniaxial{MatModel::UniaxialConcrete02, "Concrete02", true, 7, WriteParameters},
-    Uniaxial{MatModel::UniaxialConcrete03, "Concrete03", true, 10, WriteParameters},
-    Uniaxial{MatModel::UniaxialConcrete04, "Concrete04", true, 4, WriteParameters},
-    Uniaxial{MatModel::UniaxialSteel01, "Steel01", true, 3, WriteParameters},
-    Uniaxial{MatModel::UniaxialSteel02, "Steel02", true, 3, WriteParameters},
-    Uniaxial{MatModel::UniaxialReinforcingSteel, "ReinforcingSteel", true, 6, WriteReinforcing},
-    Uniaxial{MatModel::UniaxialBarSlip, "BarSlip", false, 10, WriteBarSlip},
-    Uniaxial{MatModel::UniaxialLimitState, "LimitState", false, 16, WriteLimitState},
+    Uniaxial{MatModel::UniaxialElasticPP, "ElasticPP", true, {2}, WriteParameters},
+    Uniaxial{MatModel::UniaxialHardening, "Hardening", true, {4}, WriteParameters},
+    Uniaxial{MatModel::UniaxialHysteretic, "Hysteretic", true, {12, 13, 16, 17}, WriteParameters},
+    Uniaxial{MatModel::UniaxialViscous, "Viscous", false, {2}, WriteParameters},
+    Uniaxial{MatModel::UniaxialConcrete01, "Concrete01", true, {4}, WriteParameters},
+    Uniaxial{MatModel::UniaxialConcrete02, "Concrete02", true, {7}, WriteParameters},
+    Uniaxial{MatModel::UniaxialConcrete03, "Concrete03", true, {10}, WriteParameters},
+    Uniaxial{MatModel::UniaxialConcrete04, "Concrete04", true, {4, 6, 7}, WriteParameters},
+    Uniaxial{MatModel::UniaxialSteel01, "Steel01", true, {3, 7}, WriteParameters},
+    Uniaxial{MatModel::UniaxialSteel02, "Steel02", true, {3, 6, 10}, WriteParameters},
+    Uniaxial{MatModel::UniaxialReinforcingSteel, "ReinforcingSteel", true, {6}, WriteReinforcing},
+    Uniaxial{MatModel::UniaxialBarSlip, "BarSlip", false, {10}, WriteBarSlip},
+    Uniaxial{MatModel::UniaxialLimitState, "LimitState", false, {16, 17}, WriteLimitState},
 };
+
+bool Takes(const Uniaxial& uniaxial, int count) {
+    const auto& counts = uniaxial.counts;
+    return counts[0] == 0 || std::find(counts.begin(), counts.end(), count) != counts.end();
+}
+
+/// "12, 13, 16, 17"
+std::wstring CountsOf(const Uniaxial& uniaxial) {
+    std::wstring text;
+    for (const int count : uniaxial.counts) {
+        if (count != 0) {
+            text += (text.empty() ? L"" : L", ") + std::to_wstring(count);
+        }
+    }
+    return text;
+}
 
 const Uniaxial& UniaxialOf(const CMatAnal& material) {
     const MatModel model = material.Model();
@@ -169,10 +187,10 @@ void COpenseesFile::WriteMaterials(OpsContext& c) {
     for (const ExportedMaterial& entry : c.materials.Materials()) {
         const CMatAnal& material = *m_model->FindMaterial(entry.source);
         const Uniaxial& uniaxial = UniaxialOf(material);
-        if (material.NumOpsParam() < uniaxial.leastValues) {
-            AddNote(L"Material " + std::to_wstring(entry.mid) + L" has " +
-                    std::to_wstring(material.NumOpsParam()) +
-                    L" values, of which its model needs " + std::to_wstring(uniaxial.leastValues));
+        if (!Takes(uniaxial, material.NumOpsParam())) {
+            AddNote(L"Material", entry.mid,
+                    L"has " + std::to_wstring(material.NumOpsParam()) +
+                        L" values, where the command takes " + CountsOf(uniaxial));
         }
         c.line.Append("uniaxialMaterial ").Append(uniaxial.type).Append(' ').Int(entry.mid);
         uniaxial.write(c.line, material);

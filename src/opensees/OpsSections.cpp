@@ -1,3 +1,4 @@
+#include "model/ElasticModuli.h"
 #include "model/SecGeom.h"
 #include "opensees/OpenseesFile.h"
 #include "opensees/OpsContext.h"
@@ -77,8 +78,8 @@ void COpenseesFile::WriteShellSections(OpsContext& c) {
             continue;
         }
         c.line.Append("section ElasticMembranePlateSection ").Int(c.firstShell + number);
-        for (const double value :
-             {material->E(), material->Nu(), property.Thickness(), material->Density()}) {
+        for (const double value : {ElasticModulus(*material), material->Nu(), property.Thickness(),
+                                   material->Density()}) {
             c.line.Append(' ').General(value);
         }
         End(c, L"2D property", number);

@@ -79,7 +79,9 @@ SapBlock BlockOf(const CVynData& model, const Data::CElement& element) {
 }
 
 bool IsSound(const CVynData& model, int element) {
-    return HasPlacedNodes(model, model.Elem(element)) && HasProperty(model, element);
+    const Data::CElement& record = model.Elem(element);
+    return HasPlacedNodes(model, record) && HasProperty(model, element) &&
+           (BlockOf(model, record) != SapBlock::Frame || HasLength(model, record));
 }
 
 int SapProperty(const CVynData& model, int element) {

@@ -26,8 +26,8 @@ bool CSapFile::NoteElementsLeftOut(SapContext& c) {
     ElementsLeftOut found = FindElementsLeftOut(
         *m_model, hasBlock, [&c](int number) { return c.written.Test(number); });
     found.hasLink = false;  // links become constraints
-    for (const std::wstring& note :
-         found.Notes(L"Elements whose nodes or property do not exist not exported: ")) {
+    for (const std::wstring& note : found.Notes(
+             L"Elements without length, or whose nodes or property do not exist, not exported: ")) {
         AddNote(note);
     }
     return true;

@@ -43,11 +43,10 @@ bool CSapFile::WriteFaceLoads(SapContext& c, int loadCase) {
             continue;
         }
         if (!IsTrans(load.GetDirection())) {
-            AddNote(L"Face load " + std::to_wstring(number) +
-                    L" is not exported, as a pressure can't turn");
+            AddNote(L"Face load", number, L"is not exported, as a pressure can't turn");
             continue;
         }
-        const std::vector<int> elements = SapLoadedFaces(c, load);
+        const std::vector<int> elements = LoadedFaces(c, load, L"Face load", number);
         const int own = m_model->AxisExist(load.Axis()) ? load.Axis() : kGlobalAxis;
         if (own != axis && !elements.empty()) {
             c.out.Append("    CSYS=").Int(own).EndLine();
@@ -55,6 +54,11 @@ bool CSapFile::WriteFaceLoads(SapContext& c, int loadCase) {
         }
         bool varies = false;
         for (const int element : elements) {
+            if (load.TypeOf() == FaceLoadType::Point &&
+                !load.ValidatePointLoadPosition(*m_model, element)) {
+                AddNote(L"Face load", number, L"is not exported where its point is off the face");
+                continue;
+            }
             varies = varies || Varies(*m_model, load, element);
             WriteFaceLoad(c, number, element);
         }

@@ -11,6 +11,28 @@
 
 namespace Tevra {
 
+std::vector<int> CSapFile::LoadedFrames(SapContext& c, const Data::CLoadBase& load,
+                                        const wchar_t* kind, int number) {
+    std::vector<int> frames = SapLoadedFrames(c, load);
+    NoteOthers(kind, number, load.GetLoadedElements(*m_model, 1).size() - frames.size());
+    return frames;
+}
+
+std::vector<int> CSapFile::LoadedFaces(SapContext& c, const Data::CLoadBase& load,
+                                       const wchar_t* kind, int number) {
+    std::vector<int> faces = SapLoadedFaces(c, load);
+    NoteOthers(kind, number, load.GetLoadedElements(*m_model, 2).size() - faces.size());
+    return faces;
+}
+
+void CSapFile::NoteOthers(const wchar_t* kind, int number, std::size_t others) {
+    if (others > 0) {
+        AddNote(kind, number,
+                L"is not exported for " + std::to_wstring(others) +
+                    L" elements that are not in the file");
+    }
+}
+
 bool CSapFile::IsCurved(int axis) const {
     return m_model->AxisExist(axis) && m_model->Axis(axis).TypeOf() != AxisType::Cartesian;
 }

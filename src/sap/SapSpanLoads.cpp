@@ -69,7 +69,7 @@ void CSapFile::WritePointLoads(SapContext& c, int loadCase) {
             AddNote(kCurvedNote);
             continue;
         }
-        const std::vector<int> elements = SapLoadedFrames(c, load);
+        const std::vector<int> elements = LoadedFrames(c, load, L"Beam load", number);
         if (load.Axis() != kLocalAxis && !hasAxis && !elements.empty()) {
             c.out.Append("    CSYS=0\n");
             hasAxis = true;
@@ -115,7 +115,7 @@ bool CSapFile::WriteDistributedLoads(SapContext& c, int loadCase) {
             AddNote(kCurvedNote);
             continue;
         }
-        const std::vector<int> elements = SapLoadedFrames(c, load);
+        const std::vector<int> elements = LoadedFrames(c, load, L"Beam load", number);
         if (load.TypeOf() == BeamLoadType::Trilinear) {
             AddError(L"this feature does not suppor non-uniform member loads");
             return false;
@@ -162,7 +162,7 @@ void CSapFile::WritePrestress(SapContext& c, int loadCase) {
             AddNote(L"Tendon prestress force in beam with offsets specified not exported. ");
             continue;
         }
-        for (const int element : SapLoadedFrames(c, load)) {
+        for (const int element : LoadedFrames(c, load, L"Axial load", number)) {
             const int section = SapProperty(*m_model, element);
             const Data::CMatAnal* material =
                 m_model->FindMaterial(m_model->Section(section).Component(1).Material());

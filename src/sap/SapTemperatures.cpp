@@ -35,7 +35,7 @@ bool CSapFile::WriteBeamTemperatures(SapContext& c, int loadCase) {
     for (const auto& [of, number] : loads) {
         const Data::CBeamThermalLoad& load = m_model->BeamThermalLoad(number);
         const SectionTemperature t = TemperatureOf(load);
-        for (const int element : SapLoadedFrames(c, load)) {
+        for (const int element : LoadedFrames(c, load, L"Beam thermal load", number)) {
             c.line.Append("      ADD=").Int(element);
             if (load.TypeOf() == BeamThermalType::Uniform) {
                 c.line.Append("   T=").Padded(t.mean);
@@ -62,7 +62,7 @@ bool CSapFile::WriteFaceTemperatures(SapContext& c, int loadCase) {
             continue;
         }
         const bool isUniform = load.TypeOf() == FaceThermalType::Uniform;
-        for (const int element : SapLoadedFaces(c, load)) {
+        for (const int element : LoadedFaces(c, load, L"Face thermal load", number)) {
             const SectionTemperature t =
                 TemperatureOf(load, CornerCount(m_model->Elem(element).Type()),
                               m_model->ElementThickness(element));

@@ -47,7 +47,7 @@ TEST_F(DynaBadModels, BadModelsAreWrittenOrRefused) {
              load.SetPoint(1, {.value = 1.0});
              m.SetBeamLoad(7, load);
          },
-         true, L"Beam load 7 is not written: on 1 elements"},
+         true, L"Beam load 7 is not written on elements that are no beams or have no length: 1"},
         {"a position that is no number",
          [](CVynData& m, double bad) {
              m.SetNode(3, Data::CNode({bad, 0, 0}));

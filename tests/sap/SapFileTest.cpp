@@ -91,7 +91,8 @@ const double kNan = std::numeric_limits<double>::quiet_NaN();
 
 const BadCase kBadCases[] = {
     {"no node", [](CVynData& m) { m.DeleteNode(3); }, true,
-     L"Elements whose nodes or property do not exist not exported: 2, the first is 2"},
+     L"Elements without length, or whose nodes or property do not exist, not exported: 2, the "
+     L"first is 2"},
     {"no section", [](CVynData& m) { m.DeleteSection(1); }, true, L"not exported: 3"},
     {"node that is no number",
      [](CVynData& m) {
