@@ -10,7 +10,7 @@ LINT_MINUTES ?=
 .PHONY: help setup demo test bench format format-check lint fuzz install clean
 
 help:
-	@echo 'make demo          build vynx, write the example models in every format to out/'
+	@echo 'make demo          build vynx, write the example models in every format to out/, draw them'
 	@echo 'make test          build and run all tests, with sanitizers'
 	@echo 'make bench         build and run the benchmarks'
 	@echo 'make fuzz          run the fuzz targets, FUZZ_SECONDS=$(FUZZ_SECONDS) each'
