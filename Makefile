@@ -10,7 +10,7 @@ LINT_MINUTES ?=
 .PHONY: help setup demo test bench bench-parts format format-check lint fuzz docs install clean
 
 help:
-	@echo 'make demo          build vynx, write the example models in every format to out/'
+	@echo 'make demo          build vynx, write the example models in every format to out/, draw them'
 	@echo 'make test          build and run all tests, with sanitizers'
 	@echo 'make bench         every writer and reader on models of up to a million nodes; out/bench.md'
 	@echo 'make bench-parts   benchmarks of single parts'

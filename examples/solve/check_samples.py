@@ -259,7 +259,6 @@ NOT_IN_SAMPLES = {
     "program",
     "units",
     "history",
-    "views",
     "members wall",
     "members generic_3d",
     "members void_cutter",

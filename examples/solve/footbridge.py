@@ -181,6 +181,21 @@ COMBINATIONS = {
     4: {"name": "ULS all", "description": "C1 or C2"},
 }
 
+VIEWS = {
+    1: {
+        "name": "Deck under the crowd",
+        "data": ["nodes", "displacements"],
+        "nodes": "list 1",
+        "cases": "A14",
+    },
+    2: {
+        "name": "Bearings",
+        "data": ["reactions"],
+        "nodes": "1 11 21 31",
+        "cases": "A1 A14 to A17 C1",
+    },
+}
+
 STEEL = {"name": "Structural steel", "E": 210e9, "nu": 0.3, "density": 7850.0, "alpha": 12e-6}
 
 
@@ -223,6 +238,7 @@ def model():
         },
         "cases": cases(),
         "combinations": COMBINATIONS,
+        "plain": {"views": VIEWS},
     }
 
 

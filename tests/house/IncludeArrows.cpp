@@ -33,6 +33,7 @@ constexpr std::array kRooms = {
     Room{"pile", "io model platform platform/quorl"},
     Room{"output/engine", "io model platform"},
     Room{"output", "io model platform output/engine"},
+    Room{"draw", "io model platform"},
     Room{"document", "model platform"},
 };
 

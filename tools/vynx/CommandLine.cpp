@@ -165,6 +165,31 @@ void AddInfo(CLI::App& app) {
     command->callback([=] { Info(source->Given()); });
 }
 
+void AddDraw(CLI::App& app) {
+    CLI::App* command = app.add_subcommand("draw", "Draw a model as SVG; docs/drawing.md");
+    const auto source = std::make_shared<SourceArguments>(*command, "MODEL", "Model file");
+    const auto request = std::make_shared<DrawRequest>();
+    command->add_option("-o,--output", request->output, "SVG file to write (- is standard output)")
+        ->required()
+        ->type_name("PATH");
+    command
+        ->add_option("--case", request->loadCase,
+                     "Load case whose loads are drawn, 0 none (the first with loads)")
+        ->check(CLI::NonNegativeNumber)
+        ->type_name("N");
+    command
+        ->add_option("--view", request->view,
+                     "Side that is seen: isometric, from above, along Y, against X")
+        ->check(CLI::IsMember(DrawingViews()))
+        ->capture_default_str()
+        ->type_name("VIEW");
+    command->footer(kFooter);
+    command->callback([=] {
+        request->model = source->Given();
+        Draw(*request);
+    });
+}
+
 void AddSample(CLI::App& app, SampleRequest& request) {
     CLI::App* command = app.add_subcommand("sample", "Make a regular model of any size");
     std::string kinds;
@@ -211,6 +236,7 @@ int Run(int count, const char* const* arguments) {
     AddExport(app);
     AddImport(app);
     AddInfo(app);
+    AddDraw(app);
     AddSample(app, sampleRequest);
     app.add_subcommand("formats", "List the formats and their options")->callback(ListFormats);
     app.add_subcommand("manual", "Print the manual page, roff for man")->callback([&app] {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "vynx/Failure.h"
 #include "vynx/ModelFile.h"
@@ -27,6 +29,18 @@ void Import(const ImportRequest& request);
 
 /// Prints what a model holds.
 void Info(const ModelSource& source);
+
+struct DrawRequest {
+    ModelSource model;
+    std::string output;
+    std::optional<int> loadCase;  ///< 0 none; without one the first with loads
+    std::string view = "iso";
+};
+/// Draws a model as SVG.
+void Draw(const DrawRequest& request);
+
+/// Names of the views of a drawing, as the command line has them.
+std::vector<std::string> DrawingViews();
 
 struct SampleRequest {
     std::string kind;
