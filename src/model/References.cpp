@@ -23,7 +23,9 @@ void LookAtNodes(Finder& f) {
 void LookAtElements(Finder& f) {
     ForEach(f, f.Model().ElemTable(), L"element", [&f](const CElement& element) {
         const ElementTypeInfo& info = InfoOf(element.Type());
-        if (element.NumTopo() < info.minNodes || element.NumTopo() > info.maxNodes) {
+        const bool isReserved = info.maxNodes == 0;
+        if (!isReserved &&
+            (element.NumTopo() < info.minNodes || element.NumTopo() > info.maxNodes)) {
             f.Say(std::to_wstring(element.NumTopo()) + L" nodes do not make a " +
                   std::wstring(info.text));
         }
@@ -105,6 +107,9 @@ void LookAtDynamics(Finder& f, const CDynaTask& dyna) {
         }
     }
     f.LoadCase(dyna.Mass().loadCase);
+    if (!dyna.LoadCurveDescription().empty()) {
+        f.List(CEntList(dyna.LoadCurveDescription(), SelType::LoadCase));
+    }
     f.List(dyna.NodeSelection());
     f.List(dyna.ElementSelection());
     f.List(dyna.AssemblyList());
@@ -205,6 +210,8 @@ void LookAtLoads(Finder& f) {
     LookAtLoads(f, model.InPlaneLoadTable(), L"in-plane load");
     LookAtLoads(f, model.FaceThermalLoadTable(), L"face thermal load");
     LookAtLoads(f, model.GravityLoadTable(), L"gravity load");
+    ForEach(f, model.GravityLoadTable(), L"gravity load",
+            [&f](const CGravityLoad& load) { f.List(load.NodeList()); });
 }
 
 void LookAtSoil(Finder& f) {

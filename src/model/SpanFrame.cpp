@@ -1,5 +1,6 @@
 #include "model/SpanFrame.h"
 
+#include "model/ElasticModuli.h"
 #include "model/LoadValues.h"
 #include "model/VynData.h"
 
@@ -24,8 +25,8 @@ void AddSection(const CVynData& model, int stage, SpanFrame& frame) {
         return;
     }
     const SectionProperties whole = model.SectionProp(property, 0, 0.5, true);
-    frame.eiyy = material->E() * whole.iyy;
-    frame.eizz = material->E() * whole.izz;
+    frame.eiyy = ElasticModulus(*material) * whole.iyy;
+    frame.eizz = ElasticModulus(*material) * whole.izz;
     for (int k = 1; k <= section.NumComponent(); ++k) {
         const Data::CMatAnal* own =
             k == 1 ? material : model.FindMaterial(section.Component(k).Material());

@@ -27,6 +27,13 @@ TEST_F(DrawTest, WritesTheViewAndTheCaseThatAreAskedFor) {
     EXPECT_EQ(Files(), Names{"m.svg"});
 }
 
+// The README shows this picture.
+TEST_F(DrawTest, ThePictureOfTheReadmeIsTrue) {
+    ASSERT_EQ(Run({"draw", Footbridge(), "-o", Path("m.svg")}), kDone);
+    EXPECT_EQ(Content("m.svg"), Tevra::TestSupport::ReadFile(Tevra::TestSupport::SourceDir() /
+                                                             "docs/footbridge.svg"));
+}
+
 TEST_F(DrawTest, SaysWhatCanNotBeDrawn) {
     Write("empty.json", R"({"version": 1})");
     Write("far.json", R"({"version": 1, "nodes": [{"number": 1, "position": [0, 0, 0]},

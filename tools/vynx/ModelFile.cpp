@@ -71,7 +71,7 @@ void SayDanglingReferences(const std::string& file, const Format& format,
     }
     const long more = report.total - static_cast<long>(report.findings.size());
     if (more > 0) {
-        Say(file + ": " + std::to_string(more) + " more numbers without a record");
+        Say(file + ": " + std::to_string(more) + " more like these");
     }
 }
 

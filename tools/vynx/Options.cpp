@@ -71,7 +71,8 @@ std::string Expected(const OptionSpec& spec) {
         case OptionKind::Letters:
             return "letters of " + std::string(spec.choices.front());
         case OptionKind::List:
-            return "a list such as \"1 to 5\"";
+            return spec.listKind == Tevra::SelType::Case ? "a list such as \"A1 to A5 C2\""
+                                                         : "a list such as \"1 to 5\"";
         case OptionKind::Path:
             return "a file name";
         default:
