@@ -40,6 +40,17 @@ bool HasNodes(const Data::CElement& element) {
     return has;
 }
 
+bool NodesExist(const CVynData& model, const Data::CElement& element) {
+    const int highest = model.HighestNode();
+    const bool hasGaps = model.NumNode() != highest;
+    bool has = true;
+    for (int k = 1; k <= element.NumTopo() && has; ++k) {
+        const int node = element.Topo(k);
+        has = node >= 1 && node <= highest && (!hasGaps || model.NodeExist(node));
+    }
+    return has;
+}
+
 /// The kinds of elements there are, so that no loop runs for one that there is not, and what of
 /// them a user should know.
 void CDynaAnalysis::FindKinds() {

@@ -3,6 +3,7 @@
 #include "dyna/DynaAnalysis.h"
 #include "dyna/DynaCards.h"
 #include "dyna/DynaElementKind.h"
+#include "dyna/DynaElementLoop.h"
 #include "dyna/DynaOut.h"
 #include "model/Util.h"
 #include "model/VynData.h"
@@ -37,8 +38,10 @@ void CDynaAnalysis::WriteSet(const DynaLayout& card, int number, const std::vect
 
 std::vector<int> CDynaAnalysis::ElementsOf(const CEntList& list, DynaPart type) const {
     std::vector<int> elements = Listed(list, SelType::Element);
-    std::erase_if(elements,
-                  [this, type](int number) { return KindOf(m_model->Elem(number)) != type; });
+    std::erase_if(elements, [this, type](int number) {
+        const Data::CElement& record = m_model->Elem(number);
+        return KindOf(record) != type || !HasNodes(record);
+    });
     return elements;
 }
 

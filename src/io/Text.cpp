@@ -1,5 +1,6 @@
 #include "io/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <ctime>
@@ -10,13 +11,16 @@
 namespace Tevra {
 
 void AppendCardText(std::string& out, std::wstring_view text) {
-    const std::size_t start = out.size();
+    constexpr unsigned char kDelete = 0x7F;
+    const auto start = static_cast<std::ptrdiff_t>(out.size());
     Text::AppendUtf8(out, text);
-    for (std::size_t i = start; i < out.size(); ++i) {
-        if (out[i] == '\n' || out[i] == '\r') {
-            out[i] = ' ';
-        }
-    }
+    std::replace_if(
+        out.begin() + start, out.end(),
+        [](char c) {
+            const auto byte = static_cast<unsigned char>(c);
+            return byte < ' ' || byte == kDelete;
+        },
+        ' ');
 }
 
 std::string CardText(std::wstring_view text) {

@@ -5,8 +5,8 @@
 
 namespace Tevra {
 
-/// Appends the UTF-8 of a name to a card or comment line. Each line feed and carriage return in it
-/// becomes a blank, as it would end the line.
+/// Appends the UTF-8 of a name to a card or comment line. Each control character in it becomes a
+/// blank: line ends would end the line, tabs would shift its fields, NUL would end it for readers.
 void AppendCardText(std::string& out, std::wstring_view text);
 
 /// UTF-8 of a name for a card or comment line; see AppendCardText.

@@ -23,7 +23,7 @@ bool CNasFile::Write3DProperties() {
             Skip(L"it has no material, or a value is not a number");
             continue;
         }
-        for (const ExportedProperty& property : m_materials.Prop3D(number)) {
+        for (const ExportedProperty& property : WithMaterial(m_materials.Prop3D(number))) {
             StartCard("PSOLID");
             AddInt(property.pid);
             AddInt(property.mid);
@@ -43,7 +43,7 @@ bool CNasFile::Write2DProperties() {
         } else if (!m_writtenProps2D.Test(number)) {
             Skip(L"it has no material or thickness, or a value is not a number");
         } else {
-            for (const ExportedProperty& entry : m_materials.Prop2D(number)) {
+            for (const ExportedProperty& entry : WithMaterial(m_materials.Prop2D(number))) {
                 Write2DProperty(number, entry);
             }
         }

@@ -246,6 +246,13 @@ double CNasFile::MaterialAngle(int element) const {
     return std::atan2(Dot(Cross(side, x), axes.AxisVec(2)), Dot(side, x)) * kDegrees;
 }
 
+/// The nodes of the type: more of them would shift the fields behind.
+void CNasFile::AddNodes(const Data::CElement& record) {
+    for (int k = 1; k <= InfoOf(record.Type()).maxNodes; ++k) {
+        AddInt(record.Topo(k));
+    }
+}
+
 void CNasFile::AddCornerThicknesses(const Data::CElement& record) {
     for (int k = 0; k < CornerCount(record.Type()); ++k) {
         AddReal(m_model->Prop2D(record.Property()).Thickness());
@@ -257,9 +264,7 @@ void CNasFile::WritePlane(int element, std::string_view card) {
     StartCard(card);
     AddInt(element);
     AddInt(m_materials.Prop2D(record.Property()).front().pid);
-    for (int k = 1; k <= record.NumTopo(); ++k) {
-        AddInt(record.Topo(k));
-    }
+    AddNodes(record);
     if (record.Type() == ElementType::Quad8) {
         AddCornerThicknesses(record);
     }
@@ -276,9 +281,7 @@ void CNasFile::WriteSolid(int element, std::string_view card) {
     StartCard(card);
     AddInt(element);
     AddInt(m_materials.Prop3D(record.Property()).front().pid);
-    for (int k = 1; k <= record.NumTopo(); ++k) {
-        AddInt(record.Topo(k));
-    }
+    AddNodes(record);
     EndCard();
 }
 

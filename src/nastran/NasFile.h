@@ -111,7 +111,12 @@ private:
     bool IsAxisWritten(int axis) const;
     /// The material that an exported property has first, null when there is none.
     const Data::CMatAnal* MaterialOf(const std::vector<ExportedProperty>& property) const;
+    const Data::CMatAnal* MaterialOf(const ExportedProperty& property) const;
     bool HasMaterial(const std::vector<ExportedProperty>& property) const;
+    bool HasMaterial(const ExportedProperty& property) const;
+    /// What a property is exported as with the materials that are in the file; the others are
+    /// noted.
+    std::vector<ExportedProperty> WithMaterial(std::vector<ExportedProperty> property);
     /// Why an element is not written; null when it is.
     const wchar_t* ElementFault(int element) const;
     const wchar_t* NodesFault(const Data::CElement& record) const;
@@ -158,6 +163,7 @@ private:
     void WriteSpring(int element);
     void WritePlane(int element, std::string_view card);
     double MaterialAngle(int element) const;
+    void AddNodes(const Data::CElement& record);
     void AddCornerThicknesses(const Data::CElement& record);
     void WriteSolid(int element, std::string_view card);
     void WriteCable(int element);

@@ -34,25 +34,37 @@ std::vector<double> FieldsOf(const Data::CMatAnal& m) {
 }  // namespace
 
 const Data::CMatAnal* CNasFile::MaterialOf(const std::vector<ExportedProperty>& property) const {
-    if (property.empty()) {
-        return nullptr;
-    }
-    const auto& all = m_materials.Materials();
-    const auto found =
-        std::lower_bound(all.begin(), all.end(), property.front().mid,
-                         [](const ExportedMaterial& entry, int mid) { return entry.mid < mid; });
-    return found != all.end() && found->mid == property.front().mid
-               ? m_model->FindMaterial(found->source)
-               : nullptr;
+    return property.empty() ? nullptr : MaterialOf(property.front());
 }
 
-bool CNasFile::HasMaterial(const std::vector<ExportedProperty>& property) const {
+const Data::CMatAnal* CNasFile::MaterialOf(const ExportedProperty& property) const {
+    const auto& all = m_materials.Materials();
+    const auto found =
+        std::lower_bound(all.begin(), all.end(), property.mid,
+                         [](const ExportedMaterial& entry, int mid) { return entry.mid < mid; });
+    return found != all.end() && found->mid == property.mid ? m_model->FindMaterial(found->source)
+                                                            : nullptr;
+}
+
+/// Whether the material of a property is in the file: one with a value that is no number is not.
+bool CNasFile::HasMaterial(const ExportedProperty& property) const {
     const Data::CMatAnal* material = MaterialOf(property);
     if (material == nullptr) {
         return false;
     }
     const std::vector<double> fields = FieldsOf(*material);
     return std::all_of(fields.begin(), fields.end(), [](double v) { return std::isfinite(v); });
+}
+
+bool CNasFile::HasMaterial(const std::vector<ExportedProperty>& property) const {
+    return !property.empty() && HasMaterial(property.front());
+}
+
+std::vector<ExportedProperty> CNasFile::WithMaterial(std::vector<ExportedProperty> property) {
+    const auto count =
+        std::erase_if(property, [this](const ExportedProperty& p) { return !HasMaterial(p); });
+    SkipMany(static_cast<int>(count), L"materials", L"a value of theirs is not a number");
+    return property;
 }
 
 void CNasFile::FindWrittenProperties() {

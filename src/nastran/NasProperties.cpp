@@ -155,7 +155,7 @@ bool CNasFile::WriteBeamProperties() {
             Skip(L"it has no material, or a value is not a number");
             continue;
         }
-        for (const ExportedProperty& property : m_materials.Prop1D(number)) {
+        for (const ExportedProperty& property : WithMaterial(m_materials.Prop1D(number))) {
             WriteSectionCards(number, property);
         }
         WriteGaps(number);

@@ -23,7 +23,8 @@ TEST_F(DynaBadModels, BadModelsAreWrittenOrRefused) {
     } cases[] = {
         {"no first node", [](CVynData& m, double) { m.DeleteNode(1); }, false,
          L"Element 1: its orientation node can't be placed"},
-        {"no second node", [](CVynData& m, double) { m.DeleteNode(2); }, true, L""},
+        {"no second node", [](CVynData& m, double) { m.DeleteNode(2); }, true,
+         L"Element 1 is written with nodes that do not exist"},
         {"no section", [](CVynData& m, double) { m.DeleteSection(1); }, true, L""},
         {"no material", [](CVynData& m, double) { m.DeleteMatAnal(1); }, true, L""},
         {"no nodes at all",

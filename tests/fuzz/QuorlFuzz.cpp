@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     for (const int number : model.SoilProfileTable().Numbers()) {
         for (const Data::SoilLayer& layer : model.SoilProfile(number).Layers()) {
-            Require(std::isfinite(layer.topLevel + layer.youngTop * 0.0) && layer.curve >= 0);
+            Require(std::isfinite(layer.topLevel + layer.youngTop * 0.0));
         }
     }
     for (const int number : model.SoilRectLoadTable().Numbers()) {

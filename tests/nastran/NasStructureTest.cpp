@@ -122,9 +122,12 @@ TEST_F(NasStructure, PlanesAndTheirProperties) {
     model.SetProp2D(2, stress);
     stress.SetBending(0.1);
     model.SetProp2D(3, stress);
+    model.SetElem(2, Data::CElement(ElementType::Quad4, {1, 2, 3, 4, 1}, 1));  // a node too many
     const auto deck = Write(model);
     EXPECT_EQ(deck.Named("CQUAD4").at(0).fields,
               (Fields{"1", "1", "1", "2", "3", "4", "0.000000e+0", "0.000000e+0"}));
+    EXPECT_EQ(deck.Named("CQUAD4").at(1).fields,
+              (Fields{"2", "1", "1", "2", "3", "4", "0.000000e+0", "0.000000e+0"}));
     const auto shells = deck.Named("PSHELL");
     ASSERT_EQ(shells.size(), 3U);
     EXPECT_EQ(shells[0].fields, (Fields{"1", "1", "2.000000e-1", "1", "1.000000e+0", "1",

@@ -228,6 +228,7 @@ TEST_F(QuorlFileTest, DamageIsNamedByModule) {
          false},
         {"MODULE,SOIL ZONES,1,1\n", "MODULE,SOIL ZONES,2,1\n", kWarnings + L"SOIL ZONES\n", true},
         {"1,West,2,", "1,West,3,", kWarnings + L"SOIL ZONES\n", true},
+        {"1,West,2,", "1,West,-2,", kWarnings + L"SOIL ZONES\n", true},
         {"3,Bored pile,7,", "3,Bored pile,8,", kWarnings + L"PILE SOIL PROPERTIES\n", true},
         {"MODULE,CIRC LOADS,1,0\nEND MODULE,CIRC LOADS\n", "", kWarnings + L"CIRC LOADS\n", true},
         {"END FILE\n", "MODULE,TUNNELS,1,1\nx\nEND MODULE,TUNNELS\nEND FILE\n",

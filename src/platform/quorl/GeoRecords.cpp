@@ -47,7 +47,7 @@ bool GeoSoilProfile::Read(QuorlFields& fields) {
         layer.youngTop = fields.Real();
         layer.youngBottom = fields.Real();
         layer.poissonRatio = fields.Real();
-        layer.curve = fields.Reference();
+        layer.curve = fields.Int();
     }
     return fields.Good();
 }
@@ -66,7 +66,7 @@ void GeoSoilProfile::Write(QuorlText& text) const {
 
 bool GeoSoilZone::Read(QuorlFields& fields) {
     GeoRecord::Read(fields);
-    profile = fields.Reference();
+    profile = fields.Int();
     for (double* const value : {&xMin, &yMin, &xMax, &yMax}) {
         *value = fields.Real();
     }
@@ -94,8 +94,8 @@ void GeoCurve::Write(QuorlText& text) const {
 
 bool GeoPileSoilInteraction::Read(QuorlFields& fields) {
     GeoRecord::Read(fields);
-    baseCurve = fields.Reference();
-    shaftCurve = fields.Reference();
+    baseCurve = fields.Int();
+    shaftCurve = fields.Int();
     for (double* const value : {&baseArea, &shaftFrictionLimit, &endBearingLimit}) {
         *value = fields.Real();
     }

@@ -60,10 +60,6 @@ int QuorlFields::Number() {
     return IntFrom(1);
 }
 
-int QuorlFields::Reference() {
-    return IntFrom(0);
-}
-
 double QuorlFields::Real() {
     const std::string_view field = Next();
     double value = 0.0;

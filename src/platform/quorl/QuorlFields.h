@@ -14,13 +14,13 @@ public:
     /// Text in which a backslash stands before a comma or a backslash, and "\n" and "\r" are line
     /// ends.
     std::wstring Text();
+    /// Any whole number. Numbers of records that are referred to are not held against anything
+    /// here: those that name none are for the reader to warn of.
     int Int();
     /// A count of what follows: 0 or more.
     int Count();
     /// The number of a record: 1 or more.
     int Number();
-    /// The number of a record, 0 for none.
-    int Reference();
     /// A finite number.
     double Real();
     bool Flag();
