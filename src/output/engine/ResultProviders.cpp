@@ -1,3 +1,4 @@
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -92,42 +93,35 @@ void StressRows(CRows& rows) {
     }
 }
 
+/// Further columns, of the translations and the rotations about x, y and z.
+std::vector<Column> WithVectors(std::vector<Column> columns,
+                                const std::array<const wchar_t*, 6>& headings, Quantity translation,
+                                Quantity rotation) {
+    for (std::size_t i = 0; i < headings.size(); ++i) {
+        columns.push_back({headings[i], i < 3 ? translation : rotation});
+    }
+    return columns;
+}
+
+constexpr std::array<const wchar_t*, 6> kMovements{L"Ux", L"Uy", L"Uz", L"Rxx", L"Ryy", L"Rzz"};
+constexpr std::array<const wchar_t*, 6> kForces{L"Fx", L"Fy", L"Fz", L"Mxx", L"Myy", L"Mzz"};
+
 }  // namespace
 
 DataProvider DisplacementsProvider() {
-    return {{{L"Case"},
-             {L"Node"},
-             {L"Ux", Quantity::Displacement},
-             {L"Uy", Quantity::Displacement},
-             {L"Uz", Quantity::Displacement},
-             {L"Rxx", Quantity::Rotation},
-             {L"Ryy", Quantity::Rotation},
-             {L"Rzz", Quantity::Rotation}},
-            &NodeResultRows<&CVynData::Disp, &CVynData::Rotn>};
+    return {
+        WithVectors({{L"Case"}, {L"Node"}}, kMovements, Quantity::Displacement, Quantity::Rotation),
+        &NodeResultRows<&CVynData::Disp, &CVynData::Rotn>};
 }
 
 DataProvider ReactionsProvider() {
-    return {{{L"Case"},
-             {L"Node"},
-             {L"Fx", Quantity::Force},
-             {L"Fy", Quantity::Force},
-             {L"Fz", Quantity::Force},
-             {L"Mxx", Quantity::Moment},
-             {L"Myy", Quantity::Moment},
-             {L"Mzz", Quantity::Moment}},
+    return {WithVectors({{L"Case"}, {L"Node"}}, kForces, Quantity::Force, Quantity::Moment),
             &NodeResultRows<&CVynData::ReactForce, &CVynData::ReactMoment>};
 }
 
 DataProvider ForcesProvider() {
-    return {{{L"Case"},
-             {L"Element"},
-             {L"End"},
-             {L"Fx", Quantity::Force},
-             {L"Fy", Quantity::Force},
-             {L"Fz", Quantity::Force},
-             {L"Mxx", Quantity::Moment},
-             {L"Myy", Quantity::Moment},
-             {L"Mzz", Quantity::Moment}},
+    return {WithVectors({{L"Case"}, {L"Element"}, {L"End"}}, kForces, Quantity::Force,
+                        Quantity::Moment),
             &ForceRows};
 }
 
