@@ -40,11 +40,11 @@ void COpenseesFile::WriteJoints(OpsContext& c) {
     c.out.Append("\n# joints\n");
     for (const int number : m_model->JointTable().Numbers()) {
         const Data::CJoint& joint = m_model->Joint(number);
-        if (joint.Freedom().IsNone()) {
-            continue;
-        }
         if (!HasPlacedNodes(*m_model, joint)) {
             AddNote(L"Joint", number, L"is not exported, as one of its nodes does not exist");
+            continue;
+        }
+        if (joint.Freedom().IsNone()) {
             continue;
         }
         c.line.Append("equalDOF ").Int(joint.Node(1)).Append(' ').Int(joint.Node(2));

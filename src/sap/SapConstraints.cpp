@@ -83,11 +83,11 @@ void CSapFile::WriteRigidLinks(SapContext& c, int& name) {
 void CSapFile::WriteJointConstraints(SapContext& c, int& name) {
     for (const int number : m_model->JointTable().Numbers()) {
         const Data::CJoint& joint = m_model->Joint(number);
-        if (joint.Freedom().IsNone()) {
-            continue;
-        }
         if (!HasPlacedNodes(*m_model, joint)) {
             AddNote(L"Joint", number, L"is not exported, as one of its nodes does not exist");
+            continue;
+        }
+        if (joint.Freedom().IsNone()) {
             continue;
         }
         WriteName(c, name, "TYPE=LOCAL");

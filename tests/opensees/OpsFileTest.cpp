@@ -140,7 +140,7 @@ const BadCase kBadCases[] = {
      [](CVynData& m) {
          m.SetMatAnal(3, Uniaxial(MatModel::UniaxialConcrete02, {1, 2}));
      },
-     L"Material 3 has 2 values, of which its model needs 7"},
+     L"Material 3 has 2 values, where the command takes 7"},
     {"dummy element",
      [](CVynData& m) {
          Data::CElement tie = m.Elem(4);
