@@ -93,9 +93,10 @@ private:
             return format.write(job);
         };
         Row row{std::string(subject.format), std::string(subject.sample), records};
-        if (!Take(row, Measure(write, TimesOf(m_nodes)), Product(format))) {
+        if (!Take(row, Measure(write, TimesOf(m_nodes)))) {
             return;
         }
+        row.bytes = BytesOf(Product(format));
         if (subject.floor) {
             const fs::path plain = m_folder / "floor";
             const Cost floor =
@@ -120,21 +121,20 @@ private:
             return format.read(job);
         };
         Row row{std::string(subject.format) + " (read)", std::string(subject.sample), records};
-        if (Take(row, Measure(read, TimesOf(m_nodes)), file)) {
+        if (Take(row, Measure(read, TimesOf(m_nodes)))) {
+            row.bytes = BytesOf(file);
             Add(row);
         }
     }
 
     /// Takes what was measured into a row; says so when the run failed.
-    static bool Take(Row& row, const Cost& cost, const fs::path& file) {
+    static bool Take(Row& row, const Cost& cost) {
         row.seconds = cost.seconds;
         row.extraMiB = cost.extraMiB;
         if (!cost.done) {
             std::cerr << row.subject << " of " << row.sample << " failed\n";
-            return false;
         }
-        row.bytes = BytesOf(file);
-        return true;
+        return cost.done;
     }
     void Add(const Row& row) {
         std::cerr << row.subject << ' ' << row.sample << ' ' << row.records
@@ -163,6 +163,16 @@ private:
 
 }  // namespace WholeBench
 
+namespace {
+
+/// Where files take no time of a disk.
+std::filesystem::path TemporaryFolder() {
+    const std::filesystem::path memory("/dev/shm");
+    return std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     namespace fs = std::filesystem;
     CLI::App app("Every writer and reader of vynx on generated models", "vyn_bench");
@@ -172,7 +182,7 @@ int main(int argc, char** argv) {
     app.add_option("-o,--output", output, "Markdown file to write");
     CLI11_PARSE(app, argc, argv);
 
-    const fs::path folder = fs::temp_directory_path() / ("vyn-bench-" + std::to_string(getpid()));
+    const fs::path folder = TemporaryFolder() / ("vyn-bench-" + std::to_string(getpid()));
     fs::create_directories(folder);
     WholeBench::Bench bench(folder);
     bench.Run(sizes);

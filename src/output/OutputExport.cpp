@@ -55,8 +55,10 @@ void OutputExport::DoOutput(CUlmFormat& format) {
     if (m_document != nullptr) {
         m_document->Begin(m_heading);
     }
-    ProduceOutput([this, &format](const Output::CLine& line) {
-        const std::wstring text = Output::GetUlmString(line);
+    std::wstring text;
+    ProduceOutput([this, &format, &text](const Output::CLine& line) {
+        text.clear();
+        Output::AppendUlmString(text, line);
         format.WriteLine(text);
         if (m_document != nullptr) {
             m_document->WriteLine(text);

@@ -103,7 +103,8 @@ std::string ValueName(const OptionSpec& option) {
     }
     std::string name;
     for (const std::string_view choice : option.choices) {
-        name += (name.empty() ? "" : "|") + std::string(choice);
+        name += name.empty() ? "" : "|";
+        name += choice;
     }
     return name;
 }

@@ -29,6 +29,11 @@ void AppendText(std::wstring& text, std::wstring_view cell) {
 
 std::wstring GetUlmString(const CLine& line) {
     std::wstring text;
+    AppendUlmString(text, line);
+    return text;
+}
+
+void AppendUlmString(std::wstring& text, const CLine& line) {
     bool isFirst = true;
     for (const Cell& cell : line.Cells()) {
         if (!isFirst) {
@@ -41,7 +46,6 @@ std::wstring GetUlmString(const CLine& line) {
             AppendNumber(text, cell);
         }
     }
-    return text;
 }
 
 }  // namespace Tevra::Output

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,33 +18,48 @@ struct Cell {
     std::wstring text{};
     int integer = 0;
     double real = 0.0;
-    int digits = 6;
+    int digits = 0;
 };
 
-/// A line of output: its cells in order.
+/// A line of output: its cells in order. A line that is cleared keeps the storage of its cells.
 class CLine {
 public:
-    void Clear() { m_cells.clear(); }
+    void Clear() { m_count = 0; }
     CLine& Text(std::wstring_view text) {
-        m_cells.push_back({.kind = Cell::Kind::Text, .text = std::wstring(text)});
+        Next(Cell::Kind::Text).text = text;
         return *this;
     }
     CLine& Int(int value) {
-        m_cells.push_back({.kind = Cell::Kind::Integer, .integer = value});
+        Next(Cell::Kind::Integer).integer = value;
         return *this;
     }
     /// A value that is not a number, which stands for a missing figure, is an empty cell.
-    CLine& Real(double value, int digits = Cell{}.digits) {
-        m_cells.push_back({.kind = Cell::Kind::Real, .real = value, .digits = digits});
+    CLine& Real(double value, int digits = kDigits) {
+        Cell& cell = Next(Cell::Kind::Real);
+        cell.real = value;
+        cell.digits = digits;
         return *this;
     }
-    const std::vector<Cell>& Cells() const { return m_cells; }
+    std::span<const Cell> Cells() const { return {m_cells.data(), m_count}; }
 
 private:
+    static constexpr int kDigits = 6;
+    Cell& Next(Cell::Kind kind) {
+        if (m_count == m_cells.size()) {
+            m_cells.emplace_back();
+        }
+        m_cells[m_count].kind = kind;
+        return m_cells[m_count++];
+    }
+
     std::vector<Cell> m_cells;
+    std::size_t m_count = 0;
 };
 
 /// The line as one text, its cells joined by kCellSeparator.
 std::wstring GetUlmString(const CLine& line);
+
+/// Appends the same to a text that is used again.
+void AppendUlmString(std::wstring& text, const CLine& line);
 
 }  // namespace Tevra::Output

@@ -1,5 +1,7 @@
 #include "output/engine/UlmFormat.h"
 
+#include <algorithm>
+
 #include "output/engine/Line.h"
 
 namespace Tevra {
@@ -30,8 +32,10 @@ void CUlmFormatCsv::WriteLine(std::wstring_view line) {
 }
 
 void CUlmFormatCsv::AppendCell(std::wstring_view cell) {
-    const wchar_t special[] = {m_separator, L'"', L'\n', L'\r', L'\0'};
-    if (cell.find_first_of(special) == std::wstring_view::npos) {
+    const bool isPlain = std::none_of(cell.begin(), cell.end(), [this](wchar_t c) {
+        return c == m_separator || c == L'"' || c == L'\n' || c == L'\r';
+    });
+    if (isPlain) {
         m_out->AppendWide(cell);
         return;
     }

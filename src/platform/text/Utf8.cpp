@@ -1,5 +1,6 @@
 #include "platform/text/Utf8.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -100,11 +101,28 @@ char32_t NextCodePoint(std::string_view bytes, std::size_t& i) {
     return c;
 }
 
+/// Appends the ASCII characters that a text begins with, as most text is nothing else; how many.
+template <class To, class From>
+std::size_t AppendAscii(std::basic_string<To>& out, std::basic_string_view<From> text) {
+    const auto end = std::find_if(text.begin(), text.end(), [](From c) {
+        return static_cast<std::make_unsigned_t<From>>(c) >= 0x80;
+    });
+    const auto count = static_cast<std::size_t>(end - text.begin());
+    const std::size_t at = out.size();
+    out.resize(at + count);
+    std::transform(text.begin(), end, out.begin() + static_cast<std::ptrdiff_t>(at),
+                   [](From c) { return static_cast<To>(c); });
+    return count;
+}
+
 }  // namespace
 
 void AppendUtf8(std::string& out, std::wstring_view text) {
     for (std::size_t i = 0; i < text.size();) {
-        AppendCodePoint(out, NextCodePoint(text, i));
+        i += AppendAscii(out, text.substr(i));
+        if (i < text.size()) {
+            AppendCodePoint(out, NextCodePoint(text, i));
+        }
     }
 }
 
@@ -119,7 +137,10 @@ std::wstring FromUtf8(std::string_view bytes) {
     std::wstring out;
     out.reserve(bytes.size());
     for (std::size_t i = 0; i < bytes.size();) {
-        AppendCodePoint(out, NextCodePoint(bytes, i));
+        i += AppendAscii(out, bytes.substr(i));
+        if (i < bytes.size()) {
+            AppendCodePoint(out, NextCodePoint(bytes, i));
+        }
     }
     return out;
 }

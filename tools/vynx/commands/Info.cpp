@@ -81,7 +81,7 @@ void PrintCases(const CVynData& model) {
     }
     for (const int number : model.AnalysisCaseTable().Numbers()) {
         const Tevra::CAnalysisCase& record = model.AnalysisCase(number);
-        Line("A" + std::to_string(number),
+        Line(std::string("A").append(std::to_string(number)),
              ToUtf8(record.Name()) + "  " + ToUtf8(record.Desc().Description()) +
                  (model.AnalysisCaseHasResults(number) ? "  (results)" : ""));
     }
@@ -91,7 +91,7 @@ void PrintCases(const CVynData& model) {
     for (const int number : model.CombinationCaseTable().Numbers()) {
         const Tevra::CCombinationCase& record = model.CombinationCase(number);
         const int permutations = record.Desc().NumPermutation(model);
-        Line("C" + std::to_string(number),
+        Line(std::string("C").append(std::to_string(number)),
              ToUtf8(record.Name()) + "  " + ToUtf8(record.Desc().Description()) + "  (" +
                  std::to_string(permutations) +
                  (permutations == 1 ? " permutation)" : " permutations)"));
