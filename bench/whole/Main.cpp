@@ -48,7 +48,7 @@ private:
     void RunSample(const std::string& sample, bool isCompared) {
         CVynData model;
         FillBenchModel(model, sample, m_nodes);
-        const double records = static_cast<double>(NumRecord(model));
+        const auto records = static_cast<double>(NumRecord(model));
         for (const Subject& subject : WriterSubjects()) {
             if (subject.sample == sample) {
                 RunWriter(subject, model, records);
@@ -73,7 +73,7 @@ private:
     }
     /// The file that a writer made, or its folder.
     fs::path Product(const Format& format) const {
-        const fs::path folder = m_folder / "bench";
+        fs::path folder = m_folder / "bench";
         if (!format.writesFolder) {
             return FileOf(format);
         }
@@ -171,9 +171,7 @@ std::filesystem::path TemporaryFolder() {
     return std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int Run(int argc, char** argv) {
     namespace fs = std::filesystem;
     CLI::App app("Every writer and reader of vynx on generated models", "vyn_bench");
     std::vector<int> sizes{10'000, 100'000, 1'000'000};
@@ -194,4 +192,15 @@ int main(int argc, char** argv) {
     std::ofstream file(output);
     file << bench.Table();
     return file.flush().good() ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return Run(argc, argv);
+    } catch (const std::exception& error) {
+        std::cerr << "vyn_bench: " << error.what() << '\n';
+        return 1;
+    }
 }

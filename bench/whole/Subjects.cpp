@@ -13,7 +13,7 @@ const std::vector<Subject>& WriterSubjects() {
         {"opensees", "frame", kItems},
         {"sap2000", "frame", kItems},
         {"damping", "frame", kFields},
-        {"sql", "frame", kItems, {{"single-file", ""}}},
+        {"sql", "frame", kItems, {{"single-file", ""}, {"tables", "GN"}}},
         {"view", "frame", kItems},
         {"document", "frame", kItems},
         {"quorl", "soil"},
