@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string ListOption(const Vynx::OptionSpec& spec, HostileValues& values) {
+std::string ListOption(const Vynx::OptionRow& spec, HostileValues& values) {
     std::string text = values.ListText();
     while (!CEntList(Text::FromUtf8(text), spec.listKind).IsValid()) {
         text = values.ListText();
@@ -21,7 +21,7 @@ std::string ListOption(const Vynx::OptionSpec& spec, HostileValues& values) {
     return text;
 }
 
-std::string ValueOf(const Vynx::OptionSpec& spec, HostileValues& values) {
+std::string ValueOf(const Vynx::OptionRow& spec, HostileValues& values) {
     switch (spec.kind) {
         case Vynx::OptionKind::Integer:
             return std::to_string(values.Chance(0.05)  ? 60
@@ -79,7 +79,7 @@ SteadyHost::SteadyHost() {
 
 Vynx::GivenOptions HostileOptions(const Vynx::Format& format, HostileValues& values) {
     Vynx::GivenOptions given;
-    for (const Vynx::OptionSpec& spec : format.options) {
+    for (const Vynx::OptionRow& spec : format.options) {
         if (spec.kind != Vynx::OptionKind::Path && values.Chance(0.4)) {
             given[std::string(spec.name)] = ValueOf(spec, values);
         }

@@ -27,7 +27,7 @@ TEST_F(HelpPages, TheManualTellsOfEveryFormatAndOption) {
     for (const Format& format : Formats()) {
         EXPECT_NE(m_out.find(".SS "), std::string::npos);
         for (const auto* options : {&format.options, &format.readOptions}) {
-            for (const OptionSpec& option : *options) {
+            for (const OptionRow& option : *options) {
                 std::string name = "\\fB\\-\\-";
                 for (const char c : option.name) {
                     name += c == '-' ? "\\-" : std::string(1, c);

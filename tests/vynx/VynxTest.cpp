@@ -247,7 +247,7 @@ TEST_F(VynxTest, FormatsAndHelpNameEveryOption) {
     ASSERT_EQ(Run({"export", "--help"}), kDone);
     for (const Format& format : Formats()) {
         EXPECT_NE(formats.find(format.id), std::string::npos);
-        for (const OptionSpec& option : format.options) {
+        for (const OptionRow& option : format.options) {
             EXPECT_NE(formats.find("--" + std::string(option.name)), std::string::npos);
             EXPECT_NE(m_out.find("--" + std::string(option.name)), std::string::npos);
             if (option.fallback.empty()) {

@@ -35,11 +35,11 @@ std::string Ids(bool readable) {
 /// runs.
 class FormatOptions {
 public:
-    using OptionList = std::vector<OptionSpec> Format::*;
+    using OptionList = std::vector<OptionRow> Format::*;
 
     void AddTo(CLI::App& command, OptionList options) {
         for (const Format& format : Formats()) {
-            for (const OptionSpec& declared : format.*options) {
+            for (const OptionRow& declared : format.*options) {
                 Add(command, format, declared);
             }
         }
@@ -55,7 +55,7 @@ public:
     }
 
 private:
-    void Add(CLI::App& command, const Format& format, const OptionSpec& declared) {
+    void Add(CLI::App& command, const Format& format, const OptionRow& declared) {
         const std::string name(declared.name);
         std::string help = std::string(format.id) + ": " + std::string(declared.help);
         if (!declared.fallback.empty()) {

@@ -60,7 +60,7 @@ void PrintValues() {
     PrintBranch("--to", Ids(false) + " all");
     PrintBranch("--from", Ids(true));
     for (const Format& format : Formats()) {
-        for (const OptionSpec& option : format.options) {
+        for (const OptionRow& option : format.options) {
             if (!option.choices.empty() && option.kind == OptionKind::Choice) {
                 PrintBranch("--" + std::string(option.name), Joined(option.choices));
             }
@@ -90,7 +90,7 @@ void PrintOptions(const std::vector<const CLI::App*>& commands) {
     std::cout << "    esac\n    [[ $choice == no ]] && case $format in\n";
     for (const Format& format : Formats()) {
         std::string words;
-        for (const OptionSpec& option : format.options) {
+        for (const OptionRow& option : format.options) {
             words += (words.empty() ? "--" : " --") + std::string(option.name);
         }
         if (!words.empty()) {

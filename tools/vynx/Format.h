@@ -43,7 +43,7 @@ struct Format {
     std::vector<std::string_view> extensions;
     /// Further words that name it on the command line.
     std::vector<std::string_view> aliases{};
-    std::vector<OptionSpec> options;  ///< of the writer
+    std::vector<OptionRow> options;  ///< of the writer
     /// What a model lacks to be written with these options, as a sentence; empty when nothing.
     std::string (*lacks)(const Tevra::CVynData& model, const OptionValues& options) = nullptr;
     /// Writes the file; null for formats that are only read.
@@ -54,7 +54,7 @@ struct Format {
     /// Reads a file, leaving the reason in the job on failure; null for formats only written.
     bool (*read)(ReadJob& job) = nullptr;
     /// Options of the reader; none has the name of an option of a writer.
-    std::vector<OptionSpec> readOptions{};
+    std::vector<OptionRow> readOptions{};
     /// Whether its files hold a part of a model, which is read into the rest.
     bool isPart = false;
     /// Files name properties without describing them: their numbers have no records.

@@ -80,7 +80,7 @@ void PrintCommand(const CLI::App& command) {
     }
 }
 
-void PrintOption(const OptionSpec& option) {
+void PrintOption(const OptionRow& option) {
     std::string help(option.help);
     if (!option.fallback.empty()) {
         help += " (" + std::string(option.fallback) + ")";
@@ -96,7 +96,7 @@ void PrintFormat(const Format& format) {
     }
     std::cout << ".\n";
     for (const auto* options : {&format.options, &format.readOptions}) {
-        for (const OptionSpec& option : *options) {
+        for (const OptionRow& option : *options) {
             PrintOption(option);
         }
     }

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <stdexcept>
+#include <utility>
 
 #include "io/NumberFormat.h"
 #include "platform/text/Ascii.h"
@@ -21,31 +22,31 @@ bool ReadNumber(std::string_view text, T& value) {
     return error == std::errc() && stop == end;
 }
 
-Tevra::CEntList MakeList(const OptionSpec& spec, std::string_view text) {
-    return {Tevra::Text::FromUtf8(text), spec.listKind};
+Tevra::CEntList MakeList(const OptionRow& row, std::string_view text) {
+    return {Tevra::Text::FromUtf8(text), row.listKind};
 }
 
-bool IsInRange(const OptionSpec& spec, double value) {
-    return !spec.least || value >= *spec.least;
+bool IsInRange(const OptionRow& row, double value) {
+    return !row.least || value >= *row.least;
 }
 
 /// Whether a text reads as a value of the option.
-bool Reads(const OptionSpec& spec, const std::string& text) {
+bool Reads(const OptionRow& row, const std::string& text) {
     int whole = 0;
     double real = 0.0;
-    switch (spec.kind) {
+    switch (row.kind) {
         case OptionKind::Integer:
-            return ReadNumber(text, whole) && IsInRange(spec, whole);
+            return ReadNumber(text, whole) && IsInRange(row, whole);
         case OptionKind::Real:
-            return ReadNumber(text, real) && std::isfinite(real) && IsInRange(spec, real);
+            return ReadNumber(text, real) && std::isfinite(real) && IsInRange(row, real);
         case OptionKind::Choice:
-            return std::find(spec.choices.begin(), spec.choices.end(), text) != spec.choices.end();
+            return std::find(row.choices.begin(), row.choices.end(), text) != row.choices.end();
         case OptionKind::Letters:
-            return std::all_of(text.begin(), text.end(), [&spec](char c) {
-                return spec.choices.front().find(Tevra::Text::ToUpper(c)) != std::string_view::npos;
+            return std::all_of(text.begin(), text.end(), [&row](char c) {
+                return row.choices.front().find(Tevra::Text::ToUpper(c)) != std::string_view::npos;
             });
         case OptionKind::List:
-            return MakeList(spec, text).IsValid();
+            return MakeList(row, text).IsValid();
         case OptionKind::Path:
             return !text.empty();
         default:
@@ -53,36 +54,36 @@ bool Reads(const OptionSpec& spec, const std::string& text) {
     }
 }
 
-std::string AtLeast(const OptionSpec& spec) {
+std::string AtLeast(const OptionRow& row) {
     std::string text;
-    if (spec.least) {
+    if (row.least) {
         text = " not below ";
-        Tevra::AppendGeneral(text, *spec.least);
+        Tevra::AppendGeneral(text, *row.least);
     }
     return text;
 }
 
-std::string Expected(const OptionSpec& spec) {
-    switch (spec.kind) {
+std::string Expected(const OptionRow& row) {
+    switch (row.kind) {
         case OptionKind::Integer:
-            return "a whole number" + AtLeast(spec);
+            return "a whole number" + AtLeast(row);
         case OptionKind::Real:
-            return "a number" + AtLeast(spec);
+            return "a number" + AtLeast(row);
         case OptionKind::Letters:
-            return "letters of " + std::string(spec.choices.front());
+            return "letters of " + std::string(row.choices.front());
         case OptionKind::List:
-            return spec.listKind == Tevra::SelType::Case ? "a list such as \"A1 to A5 C2\""
-                                                         : "a list such as \"1 to 5\"";
+            return row.listKind == Tevra::SelType::Case ? "a list such as \"A1 to A5 C2\""
+                                                        : "a list such as \"1 to 5\"";
         case OptionKind::Path:
             return "a file name";
         default:
-            return ValueName(spec);
+            return ValueName(row);
     }
 }
 
 }  // namespace
 
-std::string ValueName(const OptionSpec& option) {
+std::string ValueName(const OptionRow& option) {
     switch (option.kind) {
         case OptionKind::Flag:
             return {};
@@ -109,26 +110,26 @@ std::string ValueName(const OptionSpec& option) {
     return name;
 }
 
-OptionValues::OptionValues(std::string_view format, std::span<const OptionSpec> specs,
-                           const GivenOptions& given)
-    : m_specs(specs), m_given(given), m_values(specs.size(), nullptr) {
+OptionValues::OptionValues(std::string_view format, std::span<const OptionRow> rows,
+                           GivenOptions given)
+    : m_rows(rows), m_given(std::move(given)), m_values(rows.size(), nullptr) {
     for (const auto& [name, text] : m_given) {
-        const auto spec = std::find_if(specs.begin(), specs.end(),
-                                       [&n = name](const OptionSpec& s) { return s.name == n; });
-        if (spec == specs.end()) {
+        const auto row = std::find_if(rows.begin(), rows.end(),
+                                      [&n = name](const OptionRow& s) { return s.name == n; });
+        if (row == rows.end()) {
             throw Failure(kUsage, "--" + name + ": " + std::string(format) + " has no such option");
         }
-        if (!Reads(*spec, text)) {
+        if (!Reads(*row, text)) {
             throw Failure(kUsage,
-                          "--" + name + ": expected " + Expected(*spec) + ", not \"" + text + "\"");
+                          "--" + name + ": expected " + Expected(*row) + ", not \"" + text + "\"");
         }
-        m_values[static_cast<std::size_t>(spec - specs.begin())] = &text;
+        m_values[static_cast<std::size_t>(row - rows.begin())] = &text;
     }
 }
 
 std::size_t OptionValues::Find(std::string_view name) const {
-    for (std::size_t i = 0; i < m_specs.size(); ++i) {
-        if (m_specs[i].name == name) {
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (m_rows[i].name == name) {
             return i;
         }
     }
@@ -137,7 +138,7 @@ std::size_t OptionValues::Find(std::string_view name) const {
 
 std::string OptionValues::Text(std::string_view name) const {
     const std::size_t i = Find(name);
-    return m_values[i] != nullptr ? *m_values[i] : std::string(m_specs[i].fallback);
+    return m_values[i] != nullptr ? *m_values[i] : std::string(m_rows[i].fallback);
 }
 
 int OptionValues::Integer(std::string_view name) const {
@@ -153,7 +154,7 @@ double OptionValues::Real(std::string_view name) const {
 }
 
 Tevra::CEntList OptionValues::List(std::string_view name) const {
-    return MakeList(m_specs[Find(name)], Text(name));
+    return MakeList(m_rows[Find(name)], Text(name));
 }
 
 }  // namespace Vynx

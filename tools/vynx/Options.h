@@ -14,7 +14,7 @@ namespace Vynx {
 enum class OptionKind { Flag, Integer, Real, Text, Choice, Letters, List, Path };
 
 /// An option of a format: `--name VALUE`, or `--name` for a flag.
-struct OptionSpec {
+struct OptionRow {
     std::string_view name;
     OptionKind kind = OptionKind::Text;
     std::string_view fallback;  ///< the value when it is not given, as text
@@ -25,7 +25,7 @@ struct OptionSpec {
 };
 
 /// How help shows the value of an option: "N", "LIST", "one|two", "LETTERS"; empty for flags.
-std::string ValueName(const OptionSpec& option);
+std::string ValueName(const OptionRow& option);
 
 /// Option texts as they were given, by name; flags have an empty text.
 using GivenOptions = std::map<std::string, std::string, std::less<>>;
@@ -35,8 +35,7 @@ class OptionValues {
 public:
     /// Fails with `kUsage` on an option that the format does not have and on values that do not
     /// read as their kind.
-    OptionValues(std::string_view format, std::span<const OptionSpec> specs,
-                 const GivenOptions& given);
+    OptionValues(std::string_view format, std::span<const OptionRow> rows, GivenOptions given);
 
     bool Flag(std::string_view name) const { return m_values.at(Find(name)) != nullptr; }
     int Integer(std::string_view name) const;
@@ -47,7 +46,7 @@ public:
 private:
     std::size_t Find(std::string_view name) const;
 
-    std::span<const OptionSpec> m_specs;
+    std::span<const OptionRow> m_rows;
     GivenOptions m_given;
     std::vector<const std::string*> m_values;  ///< given texts, null where the default holds
 };

@@ -1,7 +1,6 @@
 #include <array>
 #include <initializer_list>
 #include <string>
-#include <utility>
 
 #include "io/NumberFormat.h"
 #include "model/Names.h"
@@ -21,16 +20,17 @@ constexpr std::array kFaceTypes = {L"", L", uniform", L", corners", L", equation
 constexpr std::array kFaceThermalTypes = {L"", L", uniform", L", gradient", L", general"};
 
 template <class Load, std::size_t N>
-std::wstring Kind(std::wstring kind, const Load& load, const std::array<const wchar_t*, N>& types) {
+std::wstring Kind(const wchar_t* kind, const Load& load,
+                  const std::array<const wchar_t*, N>& types) {
     const auto type = static_cast<std::size_t>(load.TypeOf());
-    return kind + (type < N ? types[type] : L"");
+    return std::wstring(kind) + (type < N ? types[type] : L"");
 }
 
 /// The same of loads that may act on the projection of what they load.
 template <class Load, std::size_t N>
-std::wstring ProjectedKind(std::wstring kind, const Load& load,
+std::wstring ProjectedKind(const wchar_t* kind, const Load& load,
                            const std::array<const wchar_t*, N>& types) {
-    return Kind(std::move(kind), load, types) + (load.IsProjected() ? L", projected" : L"");
+    return Kind(kind, load, types) + (load.IsProjected() ? L", projected" : L"");
 }
 
 /// The table of all loads: each row has figures and a unit of its own.

@@ -23,7 +23,7 @@ void PrintHostTable() {
     }
 }
 
-void PrintOption(const OptionSpec& option) {
+void PrintOption(const OptionRow& option) {
     const std::string value = ValueName(option);
     std::cout << "      " << std::left << std::setw(22)
               << "--" + std::string(option.name) + (value.empty() ? "" : " " + value) + " "
@@ -46,10 +46,10 @@ void ListFormats() {
             std::cout << ' ' << extension;
         }
         std::cout << '\n';
-        for (const OptionSpec& option : format.options) {
+        for (const OptionRow& option : format.options) {
             PrintOption(option);
         }
-        for (const OptionSpec& option : format.readOptions) {
+        for (const OptionRow& option : format.readOptions) {
             PrintOption(option);
         }
     }
