@@ -32,8 +32,6 @@ demo: setup
 	scripts/demo
 
 test: setup
-	cmake --preset release
-	cmake --build --preset release --target vynx
 	cmake --preset dev
 	cmake --build --preset dev
 	ctest --preset dev -j2
