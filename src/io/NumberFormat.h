@@ -35,9 +35,9 @@ char* AppendSignedFixed(char* out, double value, int width = 0, int precision = 
 /// double.
 char* AppendGeneral(char* out, double value, int width = 0, int precision = kDefaultPrecision);
 
-/// `%#g`: as `%g`, with a decimal point and all its significant digits always. A value that rounds up
-/// to a power of ten keeps its zeros too (999999.5 is 1.00000e+06), which some C libraries cut to
-/// "1.e+06".
+/// `%#g`: as `%g`, with a decimal point and all its significant digits always. A value that rounds
+/// up to a power of ten keeps its zeros too (999999.5 is 1.00000e+06), which some C libraries cut
+/// to "1.e+06".
 char* AppendPadded(char* out, double value, int width = 0, int precision = kDefaultPrecision);
 
 /// The shortest text that reads back as the same double; with an exponent where that is shorter.
