@@ -13,16 +13,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string ListOption(const Vynx::OptionRow& spec, HostileValues& values) {
+std::string ListOption(const Vynx::OptionRow& row, HostileValues& values) {
     std::string text = values.ListText();
-    while (!CEntList(Text::FromUtf8(text), spec.listKind).IsValid()) {
+    while (!CEntList(Text::FromUtf8(text), row.listKind).IsValid()) {
         text = values.ListText();
     }
     return text;
 }
 
-std::string ValueOf(const Vynx::OptionRow& spec, HostileValues& values) {
-    switch (spec.kind) {
+std::string ValueOf(const Vynx::OptionRow& row, HostileValues& values) {
+    switch (row.kind) {
         case Vynx::OptionKind::Integer:
             return std::to_string(values.Chance(0.05)  ? 60
                                   : values.Chance(0.5) ? 0
@@ -30,12 +30,12 @@ std::string ValueOf(const Vynx::OptionRow& spec, HostileValues& values) {
         case Vynx::OptionKind::Real:
             return "0.05";
         case Vynx::OptionKind::Choice:
-            return std::string(values.OneOf<std::string_view>(spec.choices));
+            return std::string(values.OneOf<std::string_view>(row.choices));
         case Vynx::OptionKind::Letters:
-            return std::string(spec.choices.front().substr(static_cast<std::size_t>(
-                values.Below(static_cast<int>(spec.choices.front().size())))));
+            return std::string(row.choices.front().substr(static_cast<std::size_t>(
+                values.Below(static_cast<int>(row.choices.front().size())))));
         case Vynx::OptionKind::List:
-            return ListOption(spec, values);
+            return ListOption(row, values);
         case Vynx::OptionKind::Text:
             return values.TextOf("analysis_cases", "description");
         default:
@@ -79,9 +79,9 @@ SteadyHost::SteadyHost() {
 
 Vynx::GivenOptions HostileOptions(const Vynx::Format& format, HostileValues& values) {
     Vynx::GivenOptions given;
-    for (const Vynx::OptionRow& spec : format.options) {
-        if (spec.kind != Vynx::OptionKind::Path && values.Chance(0.4)) {
-            given[std::string(spec.name)] = ValueOf(spec, values);
+    for (const Vynx::OptionRow& row : format.options) {
+        if (row.kind != Vynx::OptionKind::Path && values.Chance(0.4)) {
+            given[std::string(row.name)] = ValueOf(row, values);
         }
     }
     return given;
