@@ -35,13 +35,11 @@ void CGroupedNotes::Add(const wchar_t* kind, int number, const std::wstring& wha
         return;
     }
     Range& last = group->numbers.back();
+    const auto isKnown = [number](const Range& r) { return r.first <= number && number <= r.last; };
     if (number == last.last + 1) {
         last.last = number;
-    } else if (number > last.last) {
-        group->numbers.push_back({number, number});
-    } else if (std::none_of(group->numbers.begin(), group->numbers.end(), [number](const Range& r) {
-                   return r.first <= number && number <= r.last;
-               })) {
+    } else if (number > last.last ||
+               std::none_of(group->numbers.begin(), group->numbers.end(), isKnown)) {
         group->numbers.push_back({number, number});
     }
 }
