@@ -1,5 +1,6 @@
 #include "whole/Report.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -26,14 +27,13 @@ std::string Today() {
     std::tm local{};
     localtime_r(&now, &local);
     std::array<char, 16> text{};
-    std::strftime(text.data(), text.size(), "%Y-%m-%d", &local);
-    return text.data();
+    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d", &local)};
 }
 
 std::string Figure(const char* format, double value) {
     std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), format, value);
-    return text.data();
+    const int length = std::snprintf(text.data(), text.size(), format, value);
+    return {text.data(), std::min(text.size() - 1, static_cast<std::size_t>(std::max(0, length)))};
 }
 
 std::string OrDash(const char* format, double value) {
