@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -30,7 +31,9 @@ int TimesOf(int nodes) {
 
 class Bench {
 public:
-    explicit Bench(fs::path folder) : m_folder(std::move(folder)) {}
+    /// Runs the formats named, all when none is.
+    Bench(fs::path folder, std::vector<std::string> formats)
+        : m_folder(std::move(folder)), m_formats(std::move(formats)) {}
 
     void Run(const std::vector<int>& sizes) {
         for (const int nodes : sizes) {
@@ -50,22 +53,27 @@ private:
         FillBenchModel(model, sample, m_nodes);
         const auto records = static_cast<double>(NumRecord(model));
         for (const Subject& subject : WriterSubjects()) {
-            if (subject.sample == sample) {
+            if (subject.sample == sample && IsWanted(subject.format)) {
                 RunWriter(subject, model, records);
             }
         }
-        if (isCompared && sample == "solids") {
+        if (isCompared && sample == "solids" && IsWanted("nastran") && IsWanted("ls-dyna")) {
             Add(BesideMeshGenerator(model, m_folder, Time("nastran", sample),
                                     Time("ls-dyna", sample)));
         }
-        if (isCompared && sample == "frame") {
+        if (isCompared && sample == "frame" && IsWanted("sql")) {
             Add(BesideDump(Product(*Vynx::FindFormat("sql")), m_folder, Time("sql", sample)));
         }
         for (const ReaderSubject& subject : ReaderSubjects()) {
-            if (subject.sample == sample) {
+            if (subject.sample == sample && IsWanted(subject.format)) {
                 RunReader(subject, model, records);
             }
         }
+    }
+
+    bool IsWanted(std::string_view format) const {
+        return m_formats.empty() ||
+               std::find(m_formats.begin(), m_formats.end(), format) != m_formats.end();
     }
 
     fs::path FileOf(const Format& format) const {
@@ -154,6 +162,7 @@ private:
     }
 
     fs::path m_folder;
+    std::vector<std::string> m_formats;
     int m_nodes = 0;
     std::vector<Row> m_rows;
     std::vector<Comparison> m_comparisons;
@@ -175,14 +184,17 @@ int Run(int argc, char** argv) {
     namespace fs = std::filesystem;
     CLI::App app("Every writer and reader of vynx on generated models", "vyn_bench");
     std::vector<int> sizes{10'000, 100'000, 1'000'000};
+    std::vector<std::string> formats;
     std::string output = "out/bench.md";
     app.add_option("--sizes", sizes, "Numbers of nodes, ascending")->delimiter(',');
+    app.add_option("--formats", formats, "Formats to run; what a reader reads, its writer writes")
+        ->delimiter(',');
     app.add_option("-o,--output", output, "Markdown file to write");
     CLI11_PARSE(app, argc, argv);
 
     const fs::path folder = TemporaryFolder() / ("vyn-bench-" + std::to_string(getpid()));
     fs::create_directories(folder);
-    WholeBench::Bench bench(folder);
+    WholeBench::Bench bench(folder, formats);
     bench.Run(sizes);
     fs::remove_all(folder);
     std::cout << bench.Table();

@@ -47,6 +47,8 @@ char* ShortenExponent(char* first, char* last) {
 
 /// Digits of "%e".
 constexpr int kDigits = 7;
+/// No text of "%e" is longer.
+constexpr std::size_t kRealText = 16;
 
 /// Writes the text with its short exponent straight from the digits; null, and nothing is written,
 /// where they can't be told in the short way or the exponent has three digits.
@@ -64,34 +66,34 @@ char* ShortText(char* out, double value) {
     if (value < 0.0) {
         *out++ = '-';
     }
-    for (int k = kDigits; k > 1; --k) {
-        out[k] = static_cast<char>('0' + digits % 10);
-        digits /= 10;
-    }
-    out[0] = static_cast<char>('0' + digits);
+    WriteDigits(out + 1, digits, kDigits);
+    out[0] = out[1];
     out[1] = '.';
     out += kDigits + 1;
     *out++ = 'e';
     *out++ = exponent < 0 ? '-' : '+';
     const int size = std::abs(exponent);
-    if (size >= 10) {
-        *out++ = static_cast<char>('0' + size / 10);
-    }
-    *out++ = static_cast<char>('0' + size % 10);
-    return out;
+    return WriteDigits(out, static_cast<std::uint64_t>(size), size < 10 ? 1 : 2);
 }
 
-/// A number right-justified from its last digit; null, and nothing is kept, when it does not fit.
+/// Widths that are filled without a call: nearly every field has no more.
+constexpr int kBlock = 32;
+
+/// A number right-justified in a field of up to kBlock characters, from its last digit; null, and
+/// nothing is kept, when it does not fit.
 char* ShortInt(char* out, std::uint64_t value, int width) {
+    std::memset(out, ' ', kBlock);
     char* at = out + width;
-    do {
-        if (at == out) {
-            return nullptr;
-        }
-        *--at = static_cast<char>('0' + value % 10);
-        value /= 10;
-    } while (value != 0);
-    std::memset(out, ' ', static_cast<std::size_t>(at - out));
+    for (; value >= 10 && at - out >= 2; value /= 100) {
+        at -= 2;
+        std::memcpy(at, &kDigitPairs[value % 100 * 2], 2);
+    }
+    if (value >= 10 || (value > 0 && at == out)) {
+        return nullptr;
+    }
+    if (value > 0 || at == out + width) {
+        *--at = static_cast<char>('0' + value);
+    }
     return out + width;
 }
 
@@ -99,7 +101,7 @@ char* ShortInt(char* out, std::uint64_t value, int width) {
 
 char* AppendIntField(char* out, long long value, int width) {
     width = std::clamp(width, -kMaxFieldWidth, kMaxFieldWidth);
-    if (value >= 0 && width > 0) {
+    if (value >= 0 && width > 0 && width <= kBlock) {
         if (char* const end = ShortInt(out, static_cast<std::uint64_t>(value), width)) {
             return end;
         }
@@ -128,6 +130,11 @@ char* AppendRealField(char* out, double value, int width, bool signSpace) {
     if (length == room) {
         // Kept: a text that just fits has no blank before it, even where one was set aside.
         return Copy(out, text, end);
+    }
+    if (length < room && width <= kBlock) {
+        std::memset(out, ' ', kBlock);
+        std::memcpy(out + width - length, text, kRealText);
+        return out + width;
     }
     out = Fill(out, ' ', width - std::min(length, room));
     if (length < room) {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace Tevra {
 
@@ -20,5 +23,28 @@ bool SignificantDigits(double magnitude, int count, std::uint64_t& digits, int& 
 
 /// 10^`power` for 0 to 19.
 std::uint64_t IntegerPowerOfTen(int power);
+
+/// The numbers 0 to 99 as two digits each.
+inline constexpr auto kDigitPairs = [] {
+    std::array<char, 200> pairs{};
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        const std::size_t digit = i % 2 == 0 ? i / 20 : i / 2 % 10;
+        pairs[i] = static_cast<char>('0' + digit);
+    }
+    return pairs;
+}();
+
+/// Writes the last `count` digits of a number, with leading zeros; the end of them.
+inline char* WriteDigits(char* out, std::uint64_t number, int count) {
+    char* at = out + count;
+    for (; at - out >= 2; number /= 100) {
+        at -= 2;
+        std::memcpy(at, &kDigitPairs[number % 100 * 2], 2);
+    }
+    if (at != out) {
+        *out = static_cast<char>('0' + number % 10);
+    }
+    return out + count;
+}
 
 }  // namespace Tevra

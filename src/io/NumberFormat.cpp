@@ -1,7 +1,6 @@
 #include "io/NumberFormat.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -18,15 +17,27 @@ int ClampPrecision(int precision) {
     return std::clamp(precision, 0, kMaxNumberPrecision);
 }
 
+/// Characters that are copied or moved without a call: nearly every number has no more. There is
+/// always room for as many past the end of a text.
+constexpr std::size_t kBlock = 32;
+
 /// Moves the text from `first` to `last` to the right so that it fills `width`.
 char* Justify(char* first, char* last, int width) {
-    const std::ptrdiff_t length = last - first;
-    const std::ptrdiff_t blanks = std::min(width, kMaxNumberWidth) - length;
-    if (blanks <= 0) {
+    const auto length = static_cast<std::size_t>(last - first);
+    const auto filled = static_cast<std::size_t>(std::clamp(width, 0, kMaxNumberWidth));
+    if (filled <= length) {
         return last;
     }
-    std::memmove(first + blanks, first, static_cast<std::size_t>(length));
-    std::memset(first, ' ', static_cast<std::size_t>(blanks));
+    const std::size_t blanks = filled - length;
+    if (length <= kBlock && blanks <= kBlock) {
+        char text[kBlock];
+        std::memcpy(text, first, kBlock);
+        std::memset(first, ' ', kBlock);
+        std::memcpy(first + blanks, text, kBlock);
+    } else {
+        std::memmove(first + blanks, first, length);
+        std::memset(first, ' ', blanks);
+    }
     return last + blanks;
 }
 
@@ -52,28 +63,6 @@ bool SignOrSpecial(char*& out, double value, bool plus) {
     }
     out = Copy(out, std::isnan(value) ? "nan" : "inf", 3);
     return true;
-}
-
-constexpr auto kPairs = [] {
-    std::array<char, 200> pairs{};
-    for (std::size_t i = 0; i < pairs.size(); ++i) {
-        const std::size_t digit = i % 2 == 0 ? i / 20 : i / 2 % 10;
-        pairs[i] = static_cast<char>('0' + digit);
-    }
-    return pairs;
-}();
-
-/// The last `count` digits of a number, with leading zeros.
-char* WriteDigits(char* out, std::uint64_t number, int count) {
-    char* at = out + count;
-    for (; at - out >= 2; number /= 100) {
-        at -= 2;
-        std::memcpy(at, &kPairs[number % 100 * 2], 2);
-    }
-    if (at != out) {
-        *out = static_cast<char>('0' + number % 10);
-    }
-    return out + count;
 }
 
 char* WriteExponent(char* out, int exponent) {
@@ -128,10 +117,19 @@ char* AppendDecimals(char* out, double value, int width, int precision, bool plu
 
 /// Significant digits of a magnitude, rounded as printf does, and its decimal exponent.
 struct Scientific {
-    char digits[kMaxNumberPrecision] = {};
+    char digits[kMaxNumberPrecision + kBlock];  ///< `count` of them are set
     int count = 0;
     int exponent = 0;
 };
+
+/// Copies digits of a number from the one at `from` to the one before `to`.
+char* CopyDigits(char* out, const Scientific& number, int from, int to) {
+    if (to - from > static_cast<int>(kBlock)) {
+        return Copy(out, number.digits + from, to - from);
+    }
+    std::memcpy(out, number.digits + from, kBlock);
+    return out + (to - from);
+}
 
 Scientific RoundedDigits(double magnitude, int significant) {
     Scientific result;
@@ -159,29 +157,29 @@ Scientific RoundedDigits(double magnitude, int significant) {
     return result;
 }
 
-/// Digits in fixed notation, the decimal point after the one of `exponent`.
+/// Digits in fixed notation, the decimal point after the one of `exponent`, which is -4 or more.
 char* WritePlain(char* out, const Scientific& number, bool keepPoint) {
     if (number.exponent < 0) {
-        out = Copy(out, "0.", 2);
-        out = Fill(out, '0', -number.exponent - 1);
-        return Copy(out, number.digits, number.count);
+        std::memcpy(out, "0.000", 5);  // no exponent below -4 is written so
+        out += 1 - number.exponent;
+        return CopyDigits(out, number, 0, number.count);
     }
     const int whole = number.exponent + 1;
     if (number.count <= whole) {
-        out = Copy(out, number.digits, number.count);
+        out = CopyDigits(out, number, 0, number.count);
         out = Fill(out, '0', whole - number.count);
         return keepPoint ? Copy(out, ".", 1) : out;
     }
-    out = Copy(out, number.digits, whole);
+    out = CopyDigits(out, number, 0, whole);
     *out++ = '.';
-    return Copy(out, number.digits + whole, number.count - whole);
+    return CopyDigits(out, number, whole, number.count);
 }
 
 char* WriteScientific(char* out, const Scientific& number, bool keepPoint) {
     *out++ = number.digits[0];
     if (number.count > 1 || keepPoint) {
         *out++ = '.';
-        out = Copy(out, number.digits + 1, number.count - 1);
+        out = CopyDigits(out, number, 1, number.count);
     }
     return WriteExponent(out, number.exponent);
 }
@@ -211,8 +209,8 @@ void AppendTo(std::string& out, Write&& write) {
 }  // namespace
 
 char* AppendInt(char* out, long long value, int width, int digits) {
-    if (width <= 1 && digits <= 1) {
-        return std::to_chars(out, out + kMaxNumberText, value).ptr;
+    if (digits <= 1) {
+        return Justify(out, std::to_chars(out, out + kMaxNumberText, value).ptr, width);
     }
     char text[24];
     const char* from = text;

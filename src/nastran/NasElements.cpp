@@ -151,29 +151,28 @@ const wchar_t* CNasFile::ElementFault(int element) const {
     return PropertyFault(record);
 }
 
-bool CNasFile::IsElementWritten(int element) const {
-    return m_model->ElemExist(element) && m_model->ElemIsActive(element, m_selection) &&
-           ElementFault(element) == nullptr;
+void CNasFile::FindWrittenElements() {
+    m_writtenElements = CBitSet(m_model->HighestElem());
+    for (const int number : m_model->ElemTable().Numbers()) {
+        m_writtenElements.Set(number, m_model->ElemIsActive(number, m_selection) &&
+                                          ElementFault(number) == nullptr);
+    }
 }
 
 bool CNasFile::WriteElements() {
     StartSection("Elements");
     int spacers = 0;
     for (const int number : m_model->ElemTable().Numbers()) {
-        const Data::CElement& record = m_model->Elem(number);
-        if (!m_model->ElemIsActive(number, m_selection)) {
-            continue;
-        }
-        if (CardOf(record.Type(), m_writeCbeam).layout == Layout::None) {
-            spacers += record.IsSpacer() ? 1 : 0;
-            continue;
-        }
         SetSubject(L"Element", number);
-        if (const wchar_t* fault = ElementFault(number)) {
-            Skip(fault);
-            continue;
+        if (IsElementWritten(number)) {
+            WriteElement(number);
+        } else if (m_model->ElemIsActive(number, m_selection)) {
+            const Data::CElement& record = m_model->Elem(number);
+            if (CardOf(record.Type(), m_writeCbeam).layout != Layout::None) {
+                Skip(ElementFault(number));
+            }
+            spacers += record.IsSpacer() ? 1 : 0;
         }
-        WriteElement(number);
     }
     if (spacers > 0) {
         Host().ShowMessage(L"WARNING\n\nSpacer elements are not exported");

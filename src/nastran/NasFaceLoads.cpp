@@ -68,32 +68,32 @@ bool CNasFile::WriteSolidFaceLoads() {
 }
 
 /// Why a face load can't be written on an element; empty when it can.
-std::wstring CNasFile::FaceLoadFault(const Data::CFaceLoad& load, int element) const {
-    const LoadedFace face = LoadedFace::Of(*m_model, element, load.Face());
-    const std::wstring name = L"element " + std::to_wstring(element);
+std::wstring CNasFile::FaceLoadFault(const Data::CFaceLoad& load, int element,
+                                     const LoadedFace& face) const {
+    const auto name = [element] { return L"element " + std::to_wstring(element); };
     if (!face.Exists()) {
-        return name + L" has no face " + std::to_wstring(load.Face());
+        return name() + L" has no face " + std::to_wstring(load.Face());
     }
     if (!IsTrans(load.GetDirection())) {
         return L"a pressure can't turn";
     }
     if (!face.HasArea()) {
-        return name + L" has no area";
+        return name() + L" has no area";
     }
     if (load.TypeOf() == FaceLoadType::Point &&
         !load.ValidatePointLoadPosition(*m_model, element)) {
-        return L"its point does not lie on " + name;
+        return L"its point does not lie on " + name();
     }
     return {};
 }
 
 void CNasFile::WriteFaceLoad(const Data::CFaceLoad& load, int element) {
-    if (const std::wstring fault = FaceLoadFault(load, element); !fault.empty()) {
+    const LoadedFace face = LoadedFace::Of(*m_model, element, load.Face());
+    if (const std::wstring fault = FaceLoadFault(load, element, face); !fault.empty()) {
         Skip(fault);
         return;
     }
     const Data::CElement& record = m_model->Elem(element);
-    const LoadedFace face = LoadedFace::Of(*m_model, element, load.Face());
     StartCard("PLOAD4");
     AddInt(load.LoadCase());
     AddInt(element);

@@ -35,6 +35,7 @@ bool CNasFile::Write() {
     m_elementNumber = m_model->HighestElem();
     FindWrittenNodes();
     FindWrittenProperties();
+    FindWrittenElements();
     FindSectionUses();
 
     using Section = bool (CNasFile::*)();

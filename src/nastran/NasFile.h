@@ -108,6 +108,7 @@ private:
     bool IsNodeWritten(int node) const;
     void FindWrittenNodes();
     void FindWrittenProperties();
+    void FindWrittenElements();
     bool IsAxisWritten(int axis) const;
     /// The material that an exported property has first, null when there is none.
     const Data::CMatAnal* MaterialOf(const std::vector<ExportedProperty>& property) const;
@@ -121,7 +122,7 @@ private:
     const wchar_t* ElementFault(int element) const;
     const wchar_t* NodesFault(const Data::CElement& record) const;
     const wchar_t* PropertyFault(const Data::CElement& record) const;
-    bool IsElementWritten(int element) const;
+    bool IsElementWritten(int element) const { return m_writtenElements.Test(element); }
     /// Number of a coordinate system, 0 (global) for axes that do not exist.
     int CoordinateSystem(int axis);
     int NextElement();
@@ -217,7 +218,8 @@ private:
     bool WriteFaceLoads();
     bool WriteSolidFaceLoads();
     void WriteFaceLoad(const Data::CFaceLoad& load, int element);
-    std::wstring FaceLoadFault(const Data::CFaceLoad& load, int element) const;
+    std::wstring FaceLoadFault(const Data::CFaceLoad& load, int element,
+                               const LoadedFace& face) const;
     void AddFacePressures(const Data::CFaceLoad& load, int element, const LoadedFace& face);
     void AddFaceDirection(const Data::CFaceLoad& load, int element);
     bool WriteInPlaneLoads();
@@ -262,6 +264,7 @@ private:
     CBitSet m_writtenSections;
     CBitSet m_writtenProps2D;
     CBitSet m_writtenProps3D;
+    CBitSet m_writtenElements;
     bool m_isNumberTooHigh = false;  ///< a generated element number does not fit into a field
     int m_firstContinuation = 0;     ///< markers given before the card
     bool m_hasBadNumber = false;     ///< in the card

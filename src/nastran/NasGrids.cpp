@@ -57,10 +57,10 @@ int CNasFile::CoordinateSystem(int axis) {
     return 0;
 }
 
-bool CNasFile::IsAxisWritten(int number) const {
-    const Data::CAxis* axis = m_model->AxisTable().Find(number);
-    return axis != nullptr && IsFinite(axis->Origin()) && IsFinite(axis->XAxis()) &&
-           IsFinite(axis->ZAxis());
+bool CNasFile::IsAxisWritten(int axis) const {
+    const Data::CAxis* record = m_model->AxisTable().Find(axis);
+    return record != nullptr && IsFinite(record->Origin()) && IsFinite(record->XAxis()) &&
+           IsFinite(record->ZAxis());
 }
 
 bool CNasFile::WriteAxes() {

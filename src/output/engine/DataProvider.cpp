@@ -23,6 +23,14 @@ Table& Providers() {
     return table;
 }
 
+std::wstring CaseText(const SCaseRef& ref) {
+    std::wstring text = (ref.IsAnalysis() ? L"A" : L"C") + std::to_wstring(ref.Case());
+    if (ref.Permutation() < 0) {
+        text += ref.Permutation() == kMaximumEnvelope ? L" max" : L" min";
+    }
+    return text;
+}
+
 }  // namespace
 
 void RegisterProvider(const std::wstring& name, DataProvider provider) {
@@ -80,11 +88,11 @@ CRows& CRows::Real(double value) {
 }
 
 CRows& CRows::CaseName(const SCaseRef& ref) {
-    std::wstring name = (ref.IsAnalysis() ? L"A" : L"C") + std::to_wstring(ref.Case());
-    if (ref.Permutation() < 0) {
-        name += ref.Permutation() == kMaximumEnvelope ? L" max" : L" min";
+    if (m_name.empty() || !(ref == m_named)) {
+        m_named = ref;
+        m_name = CaseText(ref);
     }
-    return Text(name);
+    return Text(m_name);
 }
 
 void CRows::EndRow() {

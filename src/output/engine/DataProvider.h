@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,10 @@ public:
         m_line.Int(value);
         return *this;
     }
+    CRows& Ints(std::span<const int> values) {
+        m_line.Ints(values);
+        return *this;
+    }
     CRows& Real(double value);
     CRows& Reals(const Vec3<double>& v) { return Real(v.x).Real(v.y).Real(v.z); }
     CRows& CaseName(const SCaseRef& ref);
@@ -55,6 +60,8 @@ private:
     const LineSink& m_sink;
     std::vector<double> m_factors;  ///< by column
     std::vector<SCaseRef> m_cases;
+    SCaseRef m_named;  ///< the case whose name was written last, and that name
+    std::wstring m_name;
     CLine m_line;
 };
 

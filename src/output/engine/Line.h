@@ -33,6 +33,8 @@ public:
         Next(Cell::Kind::Integer).integer = value;
         return *this;
     }
+    /// A cell of several numbers, with blanks between.
+    CLine& Ints(std::span<const int> values);
     /// A value that is not a number, which stands for a missing figure, is an empty cell.
     CLine& Real(double value, int digits = kDigits) {
         Cell& cell = Next(Cell::Kind::Real);

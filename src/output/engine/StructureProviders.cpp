@@ -7,15 +7,6 @@ namespace Tevra::Output {
 
 namespace {
 
-/// Node numbers with blanks between.
-std::wstring TopoText(const std::vector<int>& topo) {
-    std::wstring text;
-    for (const int node : topo) {
-        text += (text.empty() ? L"" : L" ") + std::to_wstring(node);
-    }
-    return text;
-}
-
 template <class Row>
 void ForEachOf(const CRows& rows, const CEntList& list, Row row) {
     Util::Item(list, rows.Model(), -1, true).ForEach(row);
@@ -34,7 +25,7 @@ void ElementRows(CRows& rows) {
     ForEachOf(rows, rows.View().Elements(), [&rows](int number) {
         const Data::CElement& element = rows.Model().Elem(number);
         rows.Int(number).Text(element.Name()).Text(ElementTypeString(element.Type()));
-        rows.Int(element.Property()).Int(element.Group()).Text(TopoText(element.Topo()));
+        rows.Int(element.Property()).Int(element.Group()).Ints(element.Topo());
         rows.Int(element.OrientationNode()).Real(element.OrientationAngle());
         rows.Text(element.IsDummy() ? L"yes" : L"no").EndRow();
     });

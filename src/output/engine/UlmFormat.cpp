@@ -21,6 +21,30 @@ void CUlmFormatCsv::WriteLine(std::wstring_view line) {
     if (!m_out) {
         return;
     }
+    if (NeedsQuotes(line)) {
+        WriteCells(line);
+    } else {
+        // Nearly every line: one pass changes the separators, with no look at the cells.
+        m_line.resize(line.size());
+        std::transform(line.begin(), line.end(), m_line.begin(), [separator = m_separator](wchar_t c) {
+            return c == Output::kCellSeparator ? separator : c;
+        });
+        m_out->AppendWide(m_line);
+    }
+    m_out->EndLine();
+}
+
+bool CUlmFormatCsv::NeedsQuotes(std::wstring_view text) const {
+    const wchar_t separator = m_separator;
+    unsigned found = 0;  // without a branch, so that several characters are looked at in one step
+    for (const wchar_t c : text) {
+        found |= static_cast<unsigned>(c == separator) | static_cast<unsigned>(c == L'"') |
+                 static_cast<unsigned>(c == L'\n') | static_cast<unsigned>(c == L'\r');
+    }
+    return found != 0;
+}
+
+void CUlmFormatCsv::WriteCells(std::wstring_view line) {
     for (std::size_t end = line.find(Output::kCellSeparator); end != std::wstring_view::npos;
          end = line.find(Output::kCellSeparator)) {
         AppendCell(line.substr(0, end));
@@ -28,14 +52,10 @@ void CUlmFormatCsv::WriteLine(std::wstring_view line) {
         line.remove_prefix(end + 1);
     }
     AppendCell(line);
-    m_out->EndLine();
 }
 
 void CUlmFormatCsv::AppendCell(std::wstring_view cell) {
-    const bool isPlain = std::none_of(cell.begin(), cell.end(), [this](wchar_t c) {
-        return c == m_separator || c == L'"' || c == L'\n' || c == L'\r';
-    });
-    if (isPlain) {
+    if (!NeedsQuotes(cell)) {
         m_out->AppendWide(cell);
         return;
     }

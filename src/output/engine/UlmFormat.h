@@ -45,9 +45,12 @@ public:
     bool Flush();
 
 private:
+    bool NeedsQuotes(std::wstring_view text) const;
+    void WriteCells(std::wstring_view line);
     void AppendCell(std::wstring_view cell);
 
     wchar_t m_separator;
+    std::wstring m_line;
     std::unique_ptr<TextOut> m_out;
 };
 

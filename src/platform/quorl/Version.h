@@ -19,6 +19,7 @@ public:
     /// The first `parts` parts (1 to 3) with points between them.
     std::string Version(int parts = 3) const;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): the compiler's own comparison, no pointer
     auto operator<=>(const CVersion&) const = default;
 
 private:

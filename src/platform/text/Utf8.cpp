@@ -101,16 +101,35 @@ char32_t NextCodePoint(std::string_view bytes, std::size_t& i) {
     return c;
 }
 
-/// Appends the ASCII characters that a text begins with, as most text is nothing else; how many.
+/// How many ASCII characters a text begins with, looked at in blocks as most text is nothing else.
+template <class Char>
+std::size_t NumAscii(std::basic_string_view<Char> text) {
+    constexpr std::size_t kBlock = 16;
+    using Unit = std::make_unsigned_t<Char>;
+    std::size_t count = 0;
+    for (; count + kBlock <= text.size(); count += kBlock) {
+        std::uint32_t bits = 0;
+        for (std::size_t k = 0; k < kBlock; ++k) {
+            bits |= static_cast<Unit>(text[count + k]);
+        }
+        if (bits >= 0x80) {
+            break;
+        }
+    }
+    while (count < text.size() && static_cast<Unit>(text[count]) < 0x80) {
+        ++count;
+    }
+    return count;
+}
+
+/// Appends the ASCII characters that a text begins with; how many.
 template <class To, class From>
 std::size_t AppendAscii(std::basic_string<To>& out, std::basic_string_view<From> text) {
-    const auto end = std::find_if(text.begin(), text.end(), [](From c) {
-        return static_cast<std::make_unsigned_t<From>>(c) >= 0x80;
-    });
-    const auto count = static_cast<std::size_t>(end - text.begin());
+    const std::size_t count = NumAscii(text);
     const std::size_t at = out.size();
     out.resize(at + count);
-    std::transform(text.begin(), end, out.begin() + static_cast<std::ptrdiff_t>(at),
+    std::transform(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(count),
+                   out.begin() + static_cast<std::ptrdiff_t>(at),
                    [](From c) { return static_cast<To>(c); });
     return count;
 }
