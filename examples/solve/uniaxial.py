@@ -43,7 +43,7 @@ MODELS = (
     (
         "uniaxial_concrete03",
         "Concrete, tension softening",
-        {"params": [-30e6, -0.002, -6e6, -0.0035, 0.1, 2.9e6, 1e-4, 2, 1e6, 0.001, 2, 0.002]},
+        {"params": [-30e6, -0.002, -6e6, -0.0035, 0.1, 2.9e6, 1e-4, 1e6, 2, 0.002]},
     ),
     (
         "uniaxial_concrete04",
@@ -68,7 +68,15 @@ MODELS = (
             "words": ["Strong"],
         },
     ),
-    ("uniaxial_limit_state", "Column in shear", {"params": [80e3, 0.004, 95e3, 0.02, 20e3, 0.06]}),
+    (
+        "uniaxial_limit_state",
+        "Column in shear",
+        {
+            "params": [80e3, 0.004, 95e3, 0.02, 20e3, 0.06]
+            + [-80e3, -0.004, -95e3, -0.02, -20e3, -0.06, 0.8, 0.2, 0, 0],
+            "words": ["Shear"],
+        },
+    ),
 )
 
 MATERIALS = {

@@ -281,13 +281,13 @@ private:
 protected:
     // State of a dialect.
     std::string m_statement;  ///< being built
-    std::vector<SCaseRef> m_resultCases;
-    std::vector<int> m_beamPositions;
     std::string m_tableName;
     int m_numField = 0;  ///< declared in the table
     int m_numValue = 0;  ///< written in the record
 
 private:
+    std::vector<SCaseRef> m_resultCases;
+    std::vector<int> m_beamPositions;
     std::unique_ptr<char[]> m_outputBuffer;  ///< of the stream
     char m_separator = '/';                  ///< between folders in `Path`
     std::filesystem::path m_file;

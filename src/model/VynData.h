@@ -31,6 +31,15 @@ private:
 };
 
 /// The host's analysis model: what is stored (`CModelData`), what follows from it, and results.
+/// Records have numbers from 1, with gaps; a number without a record gives an empty one.
+///
+///     CVynData model;
+///     model.SetNode(1, Data::CNode({0.0, 0.0, 0.0}));
+///     model.SetNode(2, Data::CNode({4.0, 0.0, 3.0}));
+///     model.SetElem(1, Data::CElement(ElementType::Beam, {1, 2}, 1));
+///     for (const int number : model.ElemTable().Numbers()) {
+///         total += model.ElemLen(number);  // 5 m
+///     }
 ///
 /// Copies and assignments copy the contents; every model keeps the two lock objects that it was
 /// made with, so that assigning an empty model while its locks are held is safe.

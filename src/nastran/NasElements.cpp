@@ -154,8 +154,8 @@ const wchar_t* CNasFile::ElementFault(int element) const {
 void CNasFile::FindWrittenElements() {
     m_writtenElements = CBitSet(m_model->HighestElem());
     for (const int number : m_model->ElemTable().Numbers()) {
-        m_writtenElements.Set(number, m_model->ElemIsActive(number, m_selection) &&
-                                          ElementFault(number) == nullptr);
+        m_writtenElements.Set(
+            number, m_model->ElemIsActive(number, m_selection) && ElementFault(number) == nullptr);
     }
 }
 

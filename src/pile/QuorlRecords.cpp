@@ -55,6 +55,7 @@ void Copy(const Data::CSoilRectLoad& from, GeoRectLoad& to) {
 template <class Table, class To>
 void CopyAll(const Table& table, std::vector<To>& list) {
     list.clear();
+    list.reserve(static_cast<std::size_t>(table.Count()));
     for (const int number : table.Numbers()) {
         To& to = list.emplace_back();
         to.SetRef(number);

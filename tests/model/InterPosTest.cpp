@@ -13,6 +13,7 @@ using Type = BeamLoadType;
 
 std::vector<int> Millionths(const std::vector<CPosOn1D>& positions) {
     std::vector<int> out;
+    out.reserve(positions.size());
     for (const CPosOn1D& position : positions) {
         out.push_back(position.Millionths());
     }

@@ -198,7 +198,7 @@ private:
     std::set<int> Item(int depth, std::wstring& text) {
         if (depth > 0 && Upto(4) == 1) {
             text += L" (";
-            const std::set<int> inner = Items(depth - 1, text);
+            std::set<int> inner = Items(depth - 1, text);
             text += L" )";
             return inner;
         }

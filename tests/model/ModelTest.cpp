@@ -132,7 +132,8 @@ TEST(Model, AssignmentResetsContentsAndKeepsTheLocks) {
     source.SetNode(1, Data::CNode());
     const CVynData target = std::move(source);
     EXPECT_EQ(target.HighestNode(), 1);
-    EXPECT_EQ(source.HighestNode(), 0);  // NOLINT(bugprone-use-after-move)
+    // NOLINTNEXTLINE(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
+    EXPECT_EQ(source.HighestNode(), 0);
     EXPECT_TRUE(source.SetNode(2, Data::CNode()));
 }
 

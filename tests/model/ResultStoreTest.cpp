@@ -140,7 +140,8 @@ TEST(ResultTable, CopiesAndMovedFromTablesTakeNewRows) {
     EXPECT_EQ(table.NumEntity(), 1);
     const ResultTable moved = std::move(copy);
     EXPECT_EQ(moved.Row(1, 1)[5], 2.0);
-    EXPECT_EQ(copy.NumEntity(), 0);  // NOLINT(bugprone-use-after-move)
+    // NOLINTNEXTLINE(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
+    EXPECT_EQ(copy.NumEntity(), 0);
     EXPECT_TRUE(copy.Set(7, ones));
     EXPECT_EQ(copy.Row(7, 0)[3], 1.0);
     // A row of the table itself may be stored under another number.

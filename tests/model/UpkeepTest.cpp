@@ -125,7 +125,8 @@ TEST(Locks, BelongToTheModelWhateverItHolds) {
     EXPECT_EQ(&model.ShareModelBusy(), busy);
     EXPECT_EQ(&model.ShareResultsBusy(), results);
     // What was moved from is an empty model with locks of its own.
-    EXPECT_TRUE(other == CVynData());  // NOLINT(bugprone-use-after-move)
+    // NOLINTNEXTLINE(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
+    EXPECT_TRUE(other == CVynData());
     EXPECT_FALSE(other.IsLockedByResults());
     EXPECT_TRUE(ProbeLock(other.ShareModelBusy(), 0));
     EXPECT_TRUE(ProbeLock(other.ShareResultsBusy(), 0));

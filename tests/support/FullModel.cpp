@@ -61,9 +61,10 @@ void AddTitles(CVynData& model) {
     model.SetRaft({-30.0, 20.0, 0.3, 2});
 }
 
-void AddStructure(CVynData& model) {
+void AddNodes(CVynData& model) {
     for (int i = 1; i <= 12; ++i) {
-        model.SetNode(i, CNode({1.0 * (i % 4), 0.5 * (i / 4), 0.1 * i}));
+        const int row = i / 4;
+        model.SetNode(i, CNode({1.0 * (i % 4), 0.5 * row, 0.1 * i}));
     }
     CNode node({3.25, -1.5, 2.0 / 3.0});
     node.SetAxis(1);
@@ -72,6 +73,10 @@ void AddStructure(CVynData& model) {
     node.SetDamperProperty(1);
     node.SetMassProperty(1);
     model.SetNode(20, Named(node, L"Base"));
+}
+
+/// An element of each type.
+void AddElements(CVynData& model) {
     const std::pair<ElementType, std::vector<int>> elements[] = {
         {ElementType::Bar, {1, 2}},
         {ElementType::Beam, {2, 3}},
@@ -96,6 +101,9 @@ void AddStructure(CVynData& model) {
     for (const auto& [type, topo] : elements) {
         model.SetElem(++number, CElement(type, topo, 1));
     }
+}
+
+void AddMembers(CVynData& model) {
     CElement beam(ElementType::Beam, {1, 4}, 1);
     beam.SetGroup(3);
     beam.SetOrientationNode(12);
@@ -124,6 +132,9 @@ void AddStructure(CVynData& model) {
     member.SetOrder(AnalysisOrder::Quadratic);
     member.SetDummy(true);
     model.SetMember(1, Named(member, L"Column"));
+}
+
+void AddAssembly(CVynData& model) {
     CAssembly assembly;
     assembly.SetTopo(1, 1);
     assembly.SetTopo(2, 4);
@@ -135,6 +146,9 @@ void AddStructure(CVynData& model) {
     assembly.SetDz(4.0);
     assembly.SetCutPositions({0.25, 0.5});
     model.SetAssembly(1, Named(assembly, L"Core"));
+}
+
+void AddGrid(CVynData& model) {
     CAxis axis;
     axis.SetType(AxisType::Cylindrical);
     axis.SetOrigin({1, 2, 3});
@@ -429,7 +443,11 @@ void AddResults(CVynData& model) {
 CVynData MakeFullModel() {
     CVynData model;
     AddTitles(model);
-    AddStructure(model);
+    AddNodes(model);
+    AddElements(model);
+    AddMembers(model);
+    AddAssembly(model);
+    AddGrid(model);
     AddProperties(model);
     AddMaterials(model);
     AddCases(model);

@@ -232,16 +232,11 @@ std::vector<std::string> OpenReferences(const NasDeck& deck) {
 std::vector<std::string> SharedNumbers(const NasDeck& deck) {
     // Cards of one line number one kind of thing. A section of bars and rods, or of bars and beams,
     // has a card of each with its number; PSOLID cards stand twice.
-    constexpr std::string_view kKinds[] = {
-        "GRID",
-        "MAT",
-        "CORD",
+    constexpr std::string_view kElements =
         "CBAR CBEAM CROD CGAP CONROD CELAS CDAMP CONM CQUAD CTRIA CHEXA "
-        "CPENTA CTETRA CPYRA RBAR RBE2",
-        "PBAR PGAP",
-        "PBEAM PGAP",
-        "PROD PGAP",
-        "PSHELL"};
+        "CPENTA CTETRA CPYRA RBAR RBE2";
+    constexpr std::string_view kKinds[] = {"GRID",      "MAT",        "CORD",      kElements,
+                                           "PBAR PGAP", "PBEAM PGAP", "PROD PGAP", "PSHELL"};
     std::vector<std::string> shared;
     for (const std::string_view kind : kKinds) {
         std::set<std::string> numbers;

@@ -25,7 +25,8 @@ std::string Word(T value, bool swap) {
 }
 
 std::string Zeros(int words) {
-    return std::string(static_cast<std::size_t>(words) * 4, '\0');
+    std::string bytes(static_cast<std::size_t>(words) * 4, '\0');
+    return bytes;
 }
 
 void PadToBlock(std::string& out) {

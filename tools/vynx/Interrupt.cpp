@@ -3,6 +3,7 @@
 #include <array>
 #include <climits>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <unistd.h>
@@ -33,8 +34,9 @@ extern "C" void RemoveAndEnd(int signal) {
         unlink(filePath.data());
         rmdir(folderPath.data());
     }
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
+    if (std::signal(signal, SIG_DFL) == SIG_ERR || std::raise(signal) != 0) {
+        _exit(EXIT_FAILURE);
+    }
 }
 
 }  // namespace
@@ -52,7 +54,7 @@ void RemovedOnSignal::Set(const std::filesystem::path& file, const std::filesyst
     for (const int signal : kSignals) {
         // A signal that is ignored (as under nohup) stays ignored.
         if (std::signal(signal, RemoveAndEnd) == SIG_IGN) {
-            std::signal(signal, SIG_IGN);
+            static_cast<void>(std::signal(signal, SIG_IGN));
         }
     }
 }

@@ -26,9 +26,10 @@ void CUlmFormatCsv::WriteLine(std::wstring_view line) {
     } else {
         // Nearly every line: one pass changes the separators, with no look at the cells.
         m_line.resize(line.size());
-        std::transform(line.begin(), line.end(), m_line.begin(), [separator = m_separator](wchar_t c) {
-            return c == Output::kCellSeparator ? separator : c;
-        });
+        std::transform(line.begin(), line.end(), m_line.begin(),
+                       [separator = m_separator](wchar_t c) {
+                           return c == Output::kCellSeparator ? separator : c;
+                       });
         m_out->AppendWide(m_line);
     }
     m_out->EndLine();

@@ -8,6 +8,15 @@ namespace Tevra {
 /// What the host program offers to the library: message boxes, the string table, the log and a few
 /// settings. A program that embeds the library derives from this and puts its object in place with
 /// ScopedHost; until then the services are those of a ConsoleHost.
+///
+///     class QuietHost : public HostServices {
+///         void ShowMessage(const std::wstring& text) override { m_messages.push_back(text); }
+///         bool AskYesNo(const std::wstring&) override { return true; }
+///         void Log(const std::wstring&, int, int) override {}
+///         std::vector<std::wstring> m_messages;
+///     };
+///     QuietHost host;
+///     const ScopedHost inForce(host);  // until the end of this block
 class HostServices {
 public:
     HostServices() = default;

@@ -87,7 +87,8 @@ void AddResults(CVynData& model, const NodeGrid& grid, int columns) {
     for (int element = 1; element <= model.HighestElem(); ++element) {
         std::array<double, 12> ends{};
         if (element <= columns) {
-            ends[0] = ends[6] = kNodeLoad * (storeys - (element - 1) / lines);
+            const int below = (element - 1) / lines;
+            ends[0] = ends[6] = kNodeLoad * (storeys - below);
         }
         forces.Set(element, ends);
     }
