@@ -325,6 +325,11 @@ bool SaxReader::CloseRow() {
     if (m_table->NumRow(entity) > 0) {
         return Guard([entity] { throw FieldError(std::to_string(entity) + " is given twice"); });
     }
+    if (!m_table->HasRoomFor(entity)) {
+        return Guard([entity] {
+            throw FieldError(std::to_string(entity) + ": the numbers are too scattered");
+        });
+    }
     if (!m_table->Set(entity, std::span(m_row).subspan(1))) {
         return Guard([] { throw FieldError("too many figures"); });
     }

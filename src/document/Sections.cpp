@@ -92,6 +92,9 @@ int FreeNumber(const Json& object, const NumberedPages& table) {
         if (table.Exist(number)) {
             throw FieldError(std::to_string(number) + " is used twice");
         }
+        if (!table.HasRoomFor(number)) {
+            throw FieldError(std::to_string(number) + ": the numbers are too scattered");
+        }
     });
     return number;
 }

@@ -94,6 +94,8 @@ private:
         int dummies = 0;
         int panels = 0;
         int sprungEnds = 0;
+        int lengthless = 0;
+        int undirected = 0;
     };
     using DesignGrade = std::pair<MatType, int>;
 
@@ -142,6 +144,9 @@ private:
                                const Vec3<double>& y);
     bool WriteNodes();
     void WriteNode(int number, const Vec3<double>& at);
+    /// How far from a place a point shows a direction, m: a metre, far from the origin so much more
+    /// that the digits of the file tell the direction.
+    static double ArmAt(const Vec3<double>& at);
     bool WriteSupports();
     void WriteSupport(int node, Vbool6 released);
     bool WriteMaterialCurves();

@@ -19,6 +19,9 @@ constexpr int kInertiaWidth = 10;
 /// Where the number and the part of a solid end; its nodes stand behind them or in the next line.
 constexpr std::size_t kEndOfSolidHead = 16;
 
+/// What is wrong with numbers that a model can't hold.
+constexpr const char* kScattered = "the numbers are too scattered";
+
 /// Flags of the six directions from a code for translations and one for rotations.
 Vbool6 DirectionsOf(int translational, int rotational) {
     const auto flags = [](int code) {
@@ -72,6 +75,9 @@ bool CDynaImport::Node(CLineReader& lines, std::string_view& line) {
         if (!IsGood(card)) {
             return false;
         }
+        if (!m_model->NodeTable().HasRoomFor(number)) {
+            return Fail("node " + std::to_string(number) + ": " + kScattered);
+        }
         Data::CNode node(position);
         node.SetRestraint(DirectionsOf(translational, rotational));
         if (const Data::CNode* former = m_model->NodeTable().Find(number)) {
@@ -102,8 +108,7 @@ bool CDynaImport::Beam(CLineReader& lines, std::string_view& line) {
         if (!IsGood(card)) {
             return false;
         }
-        AddElement(number, std::move(beam));
-        if (!SkipFurther(lines, line)) {
+        if (!AddElement(number, std::move(beam)) || !SkipFurther(lines, line)) {
             return false;
         }
     }
@@ -123,8 +128,8 @@ bool CDynaImport::Shell(CLineReader& lines, std::string_view& line) {
         if (!ShellShape(nodes, shape)) {
             return Fail("shell " + std::to_string(number) + " lacks nodes");
         }
-        AddElement(number, Data::CElement(shape.type, shape.topology, part));
-        if (!SkipFurther(lines, line, shape.hasMidSideNodes)) {
+        if (!AddElement(number, Data::CElement(shape.type, shape.topology, part)) ||
+            !SkipFurther(lines, line, shape.hasMidSideNodes)) {
             return false;
         }
     }
@@ -144,7 +149,9 @@ bool CDynaImport::Solid(CLineReader& lines, std::string_view& line) {
         if (!SolidShape(nodes, shape)) {
             return Fail("solid " + std::to_string(number) + " lacks nodes");
         }
-        AddElement(number, Data::CElement(shape.type, shape.topology, part));
+        if (!AddElement(number, Data::CElement(shape.type, shape.topology, part))) {
+            return false;
+        }
     }
     return m_error.empty();
 }
@@ -174,7 +181,9 @@ bool CDynaImport::Spring(CLineReader& lines, std::string_view& line) {
         if (!IsGood(card)) {
             return false;
         }
-        AddElement(number, Data::CElement(ElementType::Spring, ends, part));
+        if (!AddElement(number, Data::CElement(ElementType::Spring, ends, part))) {
+            return false;
+        }
     }
     return m_error.empty();
 }
@@ -218,9 +227,13 @@ bool CDynaImport::Inertia(CLineReader& lines, std::string_view& line) {
     return m_error.empty();
 }
 
-void CDynaImport::AddElement(int number, Data::CElement element) {
+bool CDynaImport::AddElement(int number, Data::CElement element) {
+    if (!m_model->ElemTable().HasRoomFor(number)) {
+        return Fail("element " + std::to_string(number) + ": " + kScattered);
+    }
     m_model->SetElem(number, std::move(element));
     ++m_report.elements;
+    return true;
 }
 
 /// Gives a node a mass property of its own. The property is kept when there is no such node.

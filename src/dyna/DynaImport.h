@@ -100,7 +100,7 @@ private:
     static Data::CElemConnect TakeConnect(CDynaCard& card);
     bool IsGood(const CDynaCard& card);
     bool Fail(std::string reason);
-    void AddElement(int number, Data::CElement element);
+    bool AddElement(int number, Data::CElement element);
     bool AddMass(int node, const Data::CMassProp& mass);
 
     CVynData* m_model = nullptr;

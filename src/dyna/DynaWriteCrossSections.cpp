@@ -85,8 +85,9 @@ bool CDynaAnalysis::WriteCrossSection(int assembly, const CAssemblyElements& ele
     const int system = WritePlaneAxes(plane);
     const int section = ++m_crossSections;
     const Vec3<double> tail = CornerOf(plane, record);
-    const Vec3<double> head = tail + plane.axes.AxisVec(0);
-    const Vec3<double> edge = tail + plane.axes.AxisVec(1);
+    const double arm = ArmAt(tail);
+    const Vec3<double> head = tail + plane.axes.AxisVec(0) * arm;
+    const Vec3<double> edge = tail + plane.axes.AxisVec(1) * arm;
     m_out->Keyword(kCrossSection);
     m_out->Int(section, 10);
     m_out->Text().AppendCard(record.Name().substr(0, kLongestHeading)).EndLine();
@@ -101,9 +102,10 @@ int CDynaAnalysis::WritePlaneAxes(const CutPlane& plane) {
     const int origin = m_highestNode + 1;
     m_highestNode += 3;
     m_out->Keyword(kNode);
+    const double arm = ArmAt(plane.centre);
     WriteNode(origin, plane.centre);
-    WriteNode(origin + 1, plane.centre + plane.axes.AxisVec(0));
-    WriteNode(origin + 2, plane.centre + plane.axes.AxisVec(1));
+    WriteNode(origin + 1, plane.centre + plane.axes.AxisVec(0) * arm);
+    WriteNode(origin + 2, plane.centre + plane.axes.AxisVec(1) * arm);
     const int system = ++m_coordinateCount;
     m_out->Card<kCoordinateNodes>(system, origin, origin + 1, origin + 2);
     return system;

@@ -8,6 +8,7 @@
 #include "dyna/DynaElementLoop.h"
 #include "dyna/DynaOut.h"
 #include "model/LinkKind.h"
+#include "model/Placed.h"
 #include "model/VynData.h"
 
 // Beams, springs, dampers, cables and links.
@@ -40,6 +41,15 @@ ReleaseCodes CodesOf(const Data::CElemConnect& connect) {
     return {ReleaseCode(released & 7U), ReleaseCode(released >> 3U)};
 }
 
+/// Whether a node gives a plane with the ends of an element: not when it lies on their line, nor
+/// when they lie at one place.
+bool IsOffLine(const CVynData& model, const Data::CElement& element, int node) {
+    constexpr double kSmallSine = 1e-6;
+    const Vec3<double> line = model.TopoPosition(element, 2) - model.TopoPosition(element, 1);
+    const Vec3<double> arm = model.Node(node).Position() - model.TopoPosition(element, 1);
+    return Length(Cross(line, arm)) > kSmallSine * Length(line) * Length(arm);
+}
+
 }  // namespace
 
 /// The node that lies on the +y side of the element's x-y plane: the element's own where that alone
@@ -48,7 +58,8 @@ bool CDynaAnalysis::OrientationNode(int element, int& node) {
     const Data::CElement& record = m_model->Elem(element);
     node = record.OrientationNode();
     const bool isTurned = record.OrientationAngle() != 0.0;  // one that is no number is turned
-    if (!isTurned && IsNode(node)) {
+    m_counts.lengthless += HasNodes(record) && !HasLength(*m_model, record) ? 1 : 0;
+    if (!isTurned && IsNode(node) && IsOffLine(*m_model, record, node)) {
         return true;
     }
     if (!IsNode(record.Topo(1)) || m_highestNode == INT_MAX) {
@@ -61,7 +72,8 @@ bool CDynaAnalysis::OrientationNode(int element, int& node) {
     }
     node = ++m_highestNode;
     m_out->Keyword(kNode);
-    WriteNode(node, m_model->TopoPosition(record, 1) + m_model->ElemDC(element).AxisVec(1));
+    const Vec3<double>& start = m_model->TopoPosition(record, 1);
+    WriteNode(node, start + m_model->ElemDC(element).AxisVec(1) * ArmAt(start));
     return true;
 }
 
@@ -95,6 +107,10 @@ bool CDynaAnalysis::WriteBeam(int element) {
 /// `nodes` are the ends, the second 0 for a spring to the ground, and the orientation node.
 void CDynaAnalysis::WriteSpring(long long number, int part, bool isDiscrete,
                                 const std::array<int, 3>& nodes) {
+    const Vec3<double> line =
+        m_model->Node(nodes[1]).Position() - m_model->Node(nodes[0]).Position();
+    const bool hasLine = nodes[1] != 0 && Length(line) > 0.0;
+    m_counts.undirected += isDiscrete && !hasLine && nodes[2] == 0 ? 1 : 0;
     m_out->Keyword(isDiscrete ? kDiscrete : kBeam);
     m_out->Line<kDiscrete>(number, part, nodes[0], nodes[1], nodes[2]);
 }

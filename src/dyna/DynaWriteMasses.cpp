@@ -84,10 +84,16 @@ bool CDynaAnalysis::WriteAdditionalMasses() {
     m_out->Text().Append("$ mass elements for additional mass\n");
     m_out->Keyword(kMass);
     const NumberedTable<double> masses = MassOfLoads(*m_model, mass);
+    int negative = 0;
     for (const int node : masses.Numbers()) {
         if (masses.Get(node) > 0.0) {
             m_out->Line<kMass>(++m_elementNumber, node, masses.Get(node));
         }
+        negative += masses.Get(node) < 0.0 ? 1 : 0;
+    }
+    if (negative > 0) {
+        AddNote(L"Nodes without additional mass, as that of their loads is negative: " +
+                std::to_wstring(negative));
     }
     return true;
 }

@@ -1,8 +1,11 @@
+#include <algorithm>
 #include <climits>
+#include <cmath>
 
 #include "dyna/DynaAnalysis.h"
 #include "dyna/DynaCards.h"
 #include "dyna/DynaOut.h"
+#include "model/Placed.h"
 #include "model/Util.h"
 #include "model/VynData.h"
 
@@ -27,6 +30,11 @@ bool CDynaAnalysis::WriteCoordinateSystems() {
         const Data::CAxis& axis = m_model->Axis(number);
         WriteCoordinateSystem(number, axis.Origin(), axis.XAxis(), axis.YAxis());
         ++m_coordinateCount;
+        if (ArmAt(axis.Origin()) > 1.0) {
+            AddNote(L"Axis", number,
+                    L"has its origin so far off that its directions, by points a metre from it, "
+                    L"are coarse");
+        }
         if (axis.TypeOf() != AxisType::Cartesian) {
             AddNote(L"Axis", number, L"is written as cartesian: the card has no other systems");
         }
@@ -37,14 +45,26 @@ bool CDynaAnalysis::WriteCoordinateSystems() {
     return true;
 }
 
+double CDynaAnalysis::ArmAt(const Vec3<double>& at) {
+    constexpr double kNear = 100.0;
+    const double reach = std::max({std::fabs(at.x), std::fabs(at.y), std::fabs(at.z)});
+    return reach > kNear && std::isfinite(reach)
+               ? std::pow(10.0, std::ceil(std::log10(reach)) - 2.0)
+               : 1.0;
+}
+
 void CDynaAnalysis::WriteNode(int number, const Vec3<double>& at) {
     m_out->Line<kNode>(number, at.x, at.y, at.z);
 }
 
 bool CDynaAnalysis::WriteNodes() {
+    constexpr int kDigits = 7;
     m_hasNodeProperties = false;
     if (m_model->NumNode() == 0) {
         return true;
+    }
+    if (const std::wstring note = NoteOfCoarseCoordinates(*m_model, kDigits); !note.empty()) {
+        AddNote(note);
     }
     m_out->Keyword(kNode);
     for (const int number : m_model->NodeTable().Numbers()) {

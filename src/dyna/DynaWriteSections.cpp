@@ -100,6 +100,13 @@ void CDynaAnalysis::WriteBeamSection(int section, int part) {
     // Second moments about the solver's s and t, which are our y and z.
     const SectionProperties p = m_model->SectionProp(section, 0, 0.0, true);
     m_out->Line<kBeamSection, 1>(p.area, p.iyy, p.izz, p.j, kShearFactor * p.area);
+    if (!p.HasPrincipalAxes()) {
+        AddNote(L"Section", section, L"is written without its product of inertia");
+    }
+    if (m_task->BeamFormulation() == kIntegratedBeam) {
+        AddNote(L"Section", section,
+                L"is written by its properties, where integrated beams have their dimensions");
+    }
     if (!(p.area > 0.0)) {
         AddNote(L"Section", section, L"is written without an area: its description gives none");
     }
@@ -169,6 +176,11 @@ bool CDynaAnalysis::WriteSolidSections() {
         m_out->NameComment(name);
         m_out->Title(name);
         m_out->Line<kSolidSection>(FindPart(DynaPart::Solid, number), kSolidFormulation);
+        const Data::CMatAnal* material = m_model->FindMaterial(m_model->Prop3D(number).Material());
+        if (material != nullptr && material->Model() == MatModel::ElasticOrthotropic) {
+            AddNote(L"3D property", number,
+                    L"has an orthotropic material, whose axes follow the nodes of each element");
+        }
     }
     return true;
 }

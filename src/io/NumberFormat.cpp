@@ -189,6 +189,10 @@ char* AppendSignificant(char* out, double value, int width, int precision, bool 
     if (SignOrSpecial(out, value, false)) {
         return Justify(first, out, width);
     }
+    if (value == 0.0 && !padded) {
+        *out++ = '0';
+        return Justify(first, out, width);
+    }
     const int significant = std::max(ClampPrecision(precision), 1);
     Scientific number = RoundedDigits(std::fabs(value), significant);
     const bool plain = number.exponent >= -4 && number.exponent < significant;

@@ -108,9 +108,11 @@ bool CVybConverter::Results(const CUnit& units) {
         if (!m_directory.Has(entry)) {
             continue;
         }
-        if (blocksLeft == 0 || !m_stream.Seek(m_directory.Place(entry)) ||
-            m_directory.Solution(entry) > static_cast<int>(kSolutions.size())) {
+        if (blocksLeft == 0 || m_directory.Solution(entry) > static_cast<int>(kSolutions.size())) {
             return false;
+        }
+        if (!m_stream.Seek(m_directory.Place(entry))) {
+            break;  // as at a record that is short: the cases before it stay
         }
         --blocksLeft;
         CVybRecord record(m_stream.Take(kResultRecord), m_stream.Swap());

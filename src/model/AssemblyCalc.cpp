@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <map>
 
 #include "model/ResultQuery.h"
@@ -14,6 +15,9 @@ namespace Tevra::Util {
 
 namespace {
 
+/// Sine of the angle between a line and a plane below which the line runs along it.
+constexpr double kAlong = 1e-9;
+
 /// Fraction of the line at which it meets a grid plane; not finite where it runs along it.
 double FractionAt(const CVynData& model, const Data::CAssembly& assembly, int gridPlane) {
     const Data::CGridPlane& plane = model.GridPlane(gridPlane);
@@ -21,7 +25,11 @@ double FractionAt(const CVynData& model, const Data::CAssembly& assembly, int gr
     const Vec3<double> up = axis.ZAxis();
     const Vec3<double>& start = model.Node(assembly.Topo(1)).Position();
     const Vec3<double> line = model.Node(assembly.Topo(2)).Position() - start;
-    return (plane.Elevation() - Dot(start - axis.Origin(), up)) / Dot(line, up);
+    const double rise = Dot(line, up);
+    if (!(std::fabs(rise) > kAlong * Length(line))) {
+        return std::numeric_limits<double>::quiet_NaN();
+    }
+    return (plane.Elevation() - Dot(start - axis.Origin(), up)) / rise;
 }
 
 std::vector<double> StoreyPositions(const CVynData& model, const Data::CAssembly& assembly) {

@@ -43,7 +43,7 @@ void AddLine(const CVynData& model, const CutElement& cut, const CutPlane& plane
         span.Set(model, cut.element, analysisCase);
         local = span.Force(cut.at);
     }
-    const Action action{axes.LtoG(local.tran), axes.LtoG(local.rot)};
+    const Action action{axes.ResultLtoG(local.tran), axes.ResultLtoG(local.rot)};
     AddAction(sum, action, cut.isForward ? 1.0 : -1.0, cut.corners.front().at - plane.centre);
 }
 
@@ -53,13 +53,15 @@ Action FaceAction(const CVynData& model, int element, const SCaseRef& ref, int k
                   const Vec3<double>& n, const Util::CDirCos& axes) {
     const int position = std::isnan(model.Force2D(element, ref, k).xx) ? 0 : k;
     const Tens2<double> f = model.Force2D(element, ref, position);
-    const Tens2<double> m = model.Moment2D(element, ref, position);
-    const Vec2<double> q = model.Shear2D(element, ref, position);
+    // A membrane has neither moments nor shears, whether results say so or leave them out.
+    const bool bends = model.Stress2DNumLayer(element) > 1;
+    const Tens2<double> m = bends ? model.Moment2D(element, ref, position) : Tens2<double>{};
+    const Vec2<double> q = bends ? model.Shear2D(element, ref, position) : Vec2<double>{};
     const Vec3<double> force{f.xx * n.x + f.xy * n.y, f.xy * n.x + f.yy * n.y,
                              q.x * n.x + q.y * n.y};
     // Stress that is positive at the top has its moment about z x its direction.
     const Vec3<double> moment{-(m.xy * n.x + m.yy * n.y), m.xx * n.x + m.xy * n.y, 0.0};
-    return {axes.LtoG(force), axes.LtoG(moment)};
+    return {axes.ResultLtoG(force), axes.ResultLtoG(moment)};
 }
 
 void AddFace(const CVynData& model, const CutElement& cut, const CutPlane& plane, int analysisCase,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 #include "model/Types.h"
 
 namespace Tevra::Util {
@@ -33,9 +35,29 @@ public:
     /// Components of a local vector in global axes.
     Vec3<double> LtoG(const Vec3<double>& v) const { return m_x * v.x + m_y * v.y + m_z * v.z; }
 
+    /// The same of a result some of whose figures may be missing (no number): a missing figure
+    /// spoils only the components that it has a part in.
+    Vec3<double> ResultGtoL(const Vec3<double>& v) const {
+        return {Part(m_x.x, v.x) + Part(m_x.y, v.y) + Part(m_x.z, v.z),
+                Part(m_y.x, v.x) + Part(m_y.y, v.y) + Part(m_y.z, v.z),
+                Part(m_z.x, v.x) + Part(m_z.y, v.y) + Part(m_z.z, v.z)};
+    }
+    Vec3<double> ResultLtoG(const Vec3<double>& v) const {
+        return {Part(m_x.x, v.x) + Part(m_y.x, v.y) + Part(m_z.x, v.z),
+                Part(m_x.y, v.x) + Part(m_y.y, v.y) + Part(m_z.y, v.z),
+                Part(m_x.z, v.x) + Part(m_y.z, v.y) + Part(m_z.z, v.z)};
+    }
+
     bool operator==(const CDirCos&) const = default;
 
 private:
+    /// The part of a figure along a direction; a cosine that is round-off takes nothing from a
+    /// missing one.
+    static double Part(double cosine, double figure) {
+        constexpr double kRoundOff = 1e-12;
+        return std::isnan(figure) && std::fabs(cosine) < kRoundOff ? 0.0 : cosine * figure;
+    }
+
     Vec3<double> m_x{1.0, 0.0, 0.0};
     Vec3<double> m_y{0.0, 1.0, 0.0};
     Vec3<double> m_z{0.0, 0.0, 1.0};

@@ -37,7 +37,12 @@ InterResult NoInterResult() {
 }
 
 bool IsResult(const InterResult& result) {
-    return std::isfinite(result.tran.x) && std::isfinite(result.rot.x);
+    for (int k = 0; k < 3; ++k) {
+        if (std::isfinite(result.tran[k]) || std::isfinite(result.rot[k])) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void InterSpan::Set(const CVynData& model, int element, int analysisCase) {
@@ -60,7 +65,8 @@ void InterSpan::SetEnds(const CVynData& model) {
     for (int end = 0; end < 2; ++end) {
         const auto i = static_cast<std::size_t>(end);
         m_disp[i] = {model.ElemDisp(element, ref, end), model.ElemRotn(element, ref, end)};
-        m_local[i] = {m_frame.axes.GtoL(m_disp[i].tran), m_frame.axes.GtoL(m_disp[i].rot)};
+        m_local[i] = {m_frame.axes.ResultGtoL(m_disp[i].tran),
+                      m_frame.axes.ResultGtoL(m_disp[i].rot)};
         m_force[i] = {model.Force(element, ref, end), model.Moment(element, ref, end)};
     }
 }
@@ -163,7 +169,7 @@ InterResult InterSpan::Displacement(const CPosOn1D& at) const {
         tran = {tran.x, xy.w + load.xy[0], xz.w + load.xz[0]};
         rot = {rot.x, -(xz.slope + load.xz[1]), xy.slope + load.xy[1]};
     }
-    InterResult result{m_frame.axes.LtoG(tran), m_frame.axes.LtoG(rot)};
+    InterResult result{m_frame.axes.ResultLtoG(tran), m_frame.axes.ResultLtoG(rot)};
     if (at == kEnd1 || at == kEnd2) {
         result.tran = m_disp[at == kEnd1 ? 0 : 1].tran;  // as it was solved, free of round-off
     }

@@ -18,6 +18,7 @@ struct InterResult {
 
 /// Result that is missing: no number.
 InterResult NoInterResult();
+/// Whether any figure of a result is there.
 bool IsResult(const InterResult& result);
 
 /// A 1D element in one analysis case: what its ends do and what loads its span.

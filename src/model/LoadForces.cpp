@@ -1,5 +1,6 @@
 #include "model/LoadForces.h"
 
+#include <array>
 #include <cmath>
 
 #include "model/LoadValues.h"
@@ -93,13 +94,58 @@ double CornerPressure(const CVynData& model, const Data::CFaceLoad& load, int el
                                                 : load.GetFaceLoadValue(model, element, corner);
 }
 
+namespace {
+
+/// The share of a face that the value at each corner stands for: the integrals of the bilinear
+/// shape functions by four Gauss points, exact on plane faces.
+std::array<double, 4> CornerShares(const CVynData& model, const Data::CElement& record,
+                                   const SolidFace& corners) {
+    constexpr double kThird = 1.0 / 3.0;
+    if (corners[3] == 0) {
+        return {kThird, kThird, kThird, 0.0};
+    }
+    constexpr std::array<double, 4> kR{-1.0, 1.0, 1.0, -1.0};  // of the corners, and so on
+    constexpr std::array<double, 4> kS{-1.0, -1.0, 1.0, 1.0};
+    constexpr double kGauss = 0.57735026918962576;  // 1 / sqrt(3)
+    std::array<double, 4> shares{};
+    double whole = 0.0;
+    for (std::size_t point = 0; point < 4; ++point) {
+        const double r = kGauss * kR[point];
+        const double s = kGauss * kS[point];
+        Vec3<double> alongR;
+        Vec3<double> alongS;
+        for (std::size_t i = 0; i < 4; ++i) {
+            const Vec3<double>& at = model.TopoPosition(record, corners[i]);
+            alongR = alongR + at * (0.25 * kR[i] * (1.0 + kS[i] * s));
+            alongS = alongS + at * (0.25 * kS[i] * (1.0 + kR[i] * r));
+        }
+        const double area = Length(Cross(alongR, alongS));
+        whole += area;
+        for (std::size_t i = 0; i < 4; ++i) {
+            shares[i] += area * 0.25 * (1.0 + kR[i] * r) * (1.0 + kS[i] * s);
+        }
+    }
+    for (double& share : shares) {
+        share /= whole;
+    }
+    return shares;
+}
+
+}  // namespace
+
 double MeanPressure(const CVynData& model, const Data::CFaceLoad& load, int element,
                     const LoadedFace& face) {
-    double sum = 0.0;
-    for (int k = 1; k <= face.NumCorner(); ++k) {
-        sum += CornerPressure(model, load, element, k);
+    const double factor = PressureFactor(model, load, element, face);
+    if (!face.Exists() || load.TypeOf() == FaceLoadType::Uniform ||
+        load.TypeOf() == FaceLoadType::Point) {
+        return CornerPressure(model, load, element, 1) * factor;
     }
-    return sum / face.NumCorner() * PressureFactor(model, load, element, face);
+    const std::array<double, 4> shares = CornerShares(model, model.Elem(element), face.corners);
+    double mean = 0.0;
+    for (int k = 1; k <= face.NumCorner(); ++k) {
+        mean += shares[static_cast<std::size_t>(k - 1)] * CornerPressure(model, load, element, k);
+    }
+    return mean * factor;
 }
 
 double MeanPressure(const CVynData& model, const Data::CFaceLoad& load, int element) {

@@ -56,7 +56,7 @@ double PressureFactor(const CVynData& model, const Data::CFaceLoad& load, int el
 /// Pressure at a corner, from 1, before that factor; that of a force at a point is the force.
 double CornerPressure(const CVynData& model, const Data::CFaceLoad& load, int element, int corner);
 
-/// Mean of the corners, with the factor, Pa.
+/// Mean over the face, so that it has the load's sum, with the factor, Pa.
 double MeanPressure(const CVynData& model, const Data::CFaceLoad& load, int element,
                     const LoadedFace& face);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/SpanLoads.h"
 #include "model/Util.h"
 #include "model/VynData.h"
 
@@ -17,6 +18,13 @@ Vec3<double> Along(Direction d, double value) {
     Vec3<double> v;
     v[static_cast<int>(ToTrans(d))] = value;
     return v;
+}
+
+double PlaceOf(const Data::LoadPoint& point, double length, bool asFraction) {
+    if (point.isFraction == asFraction) {
+        return point.position;
+    }
+    return asFraction ? point.position / length : point.position * length;
 }
 
 }  // namespace
@@ -54,6 +62,20 @@ Vec3<double> UnitBeamLoad(const CVynData& model, const Data::CBeamLoad& load, in
                         hasPlace ? MiddleOf(model, model.Elem(element)) : Vec3<double>{});
 }
 
+LoadedStretch StretchOf(const Data::CBeamLoad& load, double length, bool asFractions) {
+    const Data::LoadPoint first = load.Point(1);
+    const Data::LoadPoint second = load.Point(2);
+    const SpanPart part =
+        PartOnSpan(PlaceOf(first, length, asFractions), PlaceOf(second, length, asFractions),
+                   asFractions ? 1.0 : length);
+    const auto value = [&](double t) { return first.value * (1.0 - t) + second.value * t; };
+    return {part.a, part.b, value(part.atA), value(part.atB)};
+}
+
+bool IsOnElement(const Data::LoadPoint& point, double length) {
+    return IsOnSpan(point.position, point.isFraction ? 1.0 : length);
+}
+
 Vec3<double> MiddleOf(const CVynData& model, const Data::CElement& element) {
     return (model.TopoPosition(element, 1) + model.TopoPosition(element, 2)) * 0.5;
 }
@@ -61,8 +83,15 @@ Vec3<double> MiddleOf(const CVynData& model, const Data::CElement& element) {
 bool ActsOnAll(const CVynData& model, const Data::CGravityLoad& load) {
     const CEntList& elements = load.LoadedEntities();
     const auto nodes = model.NodeTable().Numbers();
-    return elements.TypeOf() == SelType::Element &&
-           Util::NumItem(elements, model, -1, true) >= model.NumElem() &&
+    std::size_t loaded = 0;
+    if (elements.TypeOf() == SelType::Element) {
+        loaded = static_cast<std::size_t>(Util::NumItem(elements, model, -1, true));
+    } else {
+        for (const int dimension : {0, 1, 2, 3}) {
+            loaded += load.GetLoadedElements(model, dimension).size();
+        }
+    }
+    return loaded >= static_cast<std::size_t>(model.NumElem()) &&
            std::count_if(nodes.begin(), nodes.end(), [&model](int node) {
                return model.Node(node).MassProperty() > 0;
            }) <= static_cast<std::ptrdiff_t>(load.LoadedNodes(model).size());

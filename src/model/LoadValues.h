@@ -29,6 +29,24 @@ Vec3<double> UnitBeamLoad(const CVynData& model, const Data::CBeamLoad& load,
 /// The same for an element by its number.
 Vec3<double> UnitBeamLoad(const CVynData& model, const Data::CBeamLoad& load, int element);
 
+/// A distributed load on an element: its places from end 1, ascending and on the element, and the
+/// values there.
+struct LoadedStretch {
+    double from = 0.0;
+    double to = 0.0;
+    double fromValue = 0.0;
+    double toValue = 0.0;
+
+    bool IsEmpty() const { return !(from < to); }
+};
+
+/// What of a uniform, linear or patch load lies on an element of `length` m, with places as
+/// fractions of that or in m; empty when nothing does.
+LoadedStretch StretchOf(const Data::CBeamLoad& load, double length, bool asFractions);
+
+/// Whether the place of a load at a point is on an element of `length` m.
+bool IsOnElement(const Data::LoadPoint& point, double length);
+
 /// The middle between the ends of a 1D element, m.
 Vec3<double> MiddleOf(const CVynData& model, const Data::CElement& element);
 

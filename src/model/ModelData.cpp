@@ -104,7 +104,9 @@ void CModelData::ApplyOrientation(Data::CNode& node, const OrientationUse& use) 
 }
 
 void CModelData::CountOrientation(int node, int OrientationUse::*kind, int change) {
-    if (node < 1) {
+    // Of nodes too scattered to be stored none will ever exist.
+    if (node < 1 ||
+        !(m_orientation.Exist(node) || (change > 0 && m_orientation.HasRoomFor(node)))) {
         return;
     }
     OrientationUse use = m_orientation.Get(node);

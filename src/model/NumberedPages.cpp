@@ -50,6 +50,7 @@ NumberedPages::Page& NumberedPages::MakePage(int number) {
     }
     if (!m_books[bookIndex]) {
         m_books[bookIndex] = std::make_unique<Book>();
+        ++m_numBook;
     }
     return m_books[bookIndex]->pages[Index(number) / kPageSize % kPagesInBook];
 }

@@ -24,6 +24,13 @@ public:
     /// Number of records.
     int Count() const { return m_count; }
 
+    /// Whether a record of this number (from 1) can be stored at a fair cost. Numbers that lie
+    /// together share storage; a lonely one far from all others takes a good deal of its own. No
+    /// model that a program wrote has so many of those that readers should take them.
+    bool HasRoomFor(int number) const {
+        return m_numBook < kFreeBooks + m_count / kRecordsPerBook || HasBookOf(number);
+    }
+
     bool Exist(int number) const {
         const Page* page = FindPage(number);
         return page != nullptr && page->Has(number);
@@ -72,7 +79,7 @@ public:
 
 protected:
     static constexpr std::size_t kPageSize = 64;
-    static constexpr std::size_t kPagesInBook = 1024;
+    static constexpr std::size_t kPagesInBook = 256;
     static constexpr std::size_t kBookSpan = kPageSize * kPagesInBook;
 
     static constexpr std::size_t Index(int number) { return static_cast<std::size_t>(number) - 1; }
@@ -97,6 +104,7 @@ protected:
 
     void Swap(NumberedPages& o) noexcept {
         std::swap(m_books, o.m_books);
+        std::swap(m_numBook, o.m_numBook);
         std::swap(m_highest, o.m_highest);
         std::swap(m_count, o.m_count);
     }
@@ -127,9 +135,18 @@ protected:
     }
 
 private:
+    /// Books that any table may have, 35 KB each, and how many records let it have one more.
+    static constexpr int kFreeBooks = 1024;
+    static constexpr int kRecordsPerBook = 16;
+
+    bool HasBookOf(int number) const {
+        const std::size_t book = Index(number) / kBookSpan;
+        return book < m_books.size() && m_books[book] != nullptr;
+    }
     int LastAtOrBelow(int number) const;
 
     std::vector<std::unique_ptr<Book>> m_books;
+    int m_numBook = 0;
     int m_highest = 0;
     int m_count = 0;
 };

@@ -1,5 +1,6 @@
 #include "model/Placed.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "model/VynData.h"
@@ -26,6 +27,23 @@ bool HasLength(const CVynData& model, const Data::CElement& element) {
 
 bool HasPlacedNodes(const CVynData& model, const Data::CJoint& joint) {
     return IsPlaced(model, joint.Node(1)) && IsPlaced(model, joint.Node(2));
+}
+
+std::wstring NoteOfCoarseCoordinates(const CVynData& model, int digits) {
+    constexpr double kMillimetre = 1e-3;
+    double farthest = 0.0;
+    for (const int number : model.NodeTable().Numbers()) {
+        const Vec3<double>& at = model.Node(number).Position();
+        for (const double coordinate : {at.x, at.y, at.z}) {
+            farthest = std::max(farthest, std::isfinite(coordinate) ? std::fabs(coordinate) : 0.0);
+        }
+    }
+    // One step of the last digit of 10^n, of which there are `digits`, is 10^(n + 1 - digits).
+    if (!(farthest >= kMillimetre * std::pow(10.0, digits))) {
+        return {};
+    }
+    return L"The model lies far from the origin: coordinates keep " + std::to_wstring(digits) +
+           L" digits, which are steps of more than a millimetre";
 }
 
 }  // namespace Tevra

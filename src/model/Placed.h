@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "model/Util.h"
 
 namespace Tevra {
@@ -20,6 +22,10 @@ bool HasPlacedNodes(const CVynData& model, const Data::CElement& element);
 bool HasLength(const CVynData& model, const Data::CElement& element);
 /// Whether both nodes of a joint are placed.
 bool HasPlacedNodes(const CVynData& model, const Data::CJoint& joint);
+
+/// What there is to say of a model that lies so far from the origin that coordinates of so many
+/// significant digits have steps of more than a millimetre; empty for others.
+std::wstring NoteOfCoarseCoordinates(const CVynData& model, int digits);
 
 /// Calls `use` with the nodes of a list that are placed, ascending.
 template <class Use>

@@ -79,6 +79,8 @@ public:
     /// Stores all rows of an entity: `values` holds a whole number of rows, one at least and at
     /// most 8192 figures in all. False for numbers below 1 and other counts.
     bool Set(int entity, std::span<const double> values);
+    /// See NumberedPages::HasRoomFor.
+    bool HasRoomFor(int entity) const { return m_rows.HasRoomFor(entity); }
     /// The entities that have rows, ascending.
     auto Entities() const { return m_rows.Numbers(); }
 

@@ -20,6 +20,13 @@ struct SectionProperties {
     double avy = 0.0;
     double avz = 0.0;
     bool operator==(const SectionProperties&) const = default;
+
+    /// Whether y and z are principal axes, up to round-off.
+    bool HasPrincipalAxes() const {
+        constexpr double kRoundOff = 1e-6;
+        const double least = kRoundOff * (iyy + izz);
+        return !(iyz > least || -iyz > least);
+    }
 };
 
 namespace Data {

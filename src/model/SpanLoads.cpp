@@ -40,12 +40,25 @@ Vec3<double> IntegralOf(const SpanPiece& piece, int n, double x) {
     return (piece.first + slope * h) * even - slope * rising;
 }
 
-Vec3<double> ValueAt(const SpanPiece& piece, double x) {
-    const double t = (x - piece.a) / (piece.b - piece.a);
-    return piece.first * (1.0 - t) + piece.last * t;
+}  // namespace
+
+SpanPart PartOnSpan(double first, double second, double length) {
+    if (!std::isfinite(first) || !std::isfinite(second)) {
+        return {};
+    }
+    const double run = second - first;
+    const auto share = [=](double place) {
+        return place == first ? 0.0 : place == second ? 1.0 : (place - first) / run;
+    };
+    const double a = std::max(std::min(first, second), 0.0);
+    const double b = std::min(std::max(first, second), length);
+    return {a, b, share(a), share(b)};
 }
 
-}  // namespace
+bool IsOnSpan(double place, double length) {
+    const double slack = kRoundOff * length;
+    return place >= -slack && place <= length + slack;
+}
 
 void SpanLoads::Clear() {
     m_pieces.clear();
@@ -53,24 +66,15 @@ void SpanLoads::Clear() {
 }
 
 void SpanLoads::AddPiece(const SpanPiece& piece, double length) {
-    if (!std::isfinite(piece.a) || !std::isfinite(piece.b) || piece.a == piece.b) {
-        return;
-    }
-    SpanPiece given = piece;
-    if (given.a > given.b) {
-        std::swap(given.a, given.b);
-        std::swap(given.first, given.last);
-    }
-    const double a = std::max(given.a, 0.0);
-    const double b = std::min(given.b, length);
-    if (a < b) {
-        m_pieces.push_back({a, b, ValueAt(given, a), ValueAt(given, b)});
+    const SpanPart part = PartOnSpan(piece.a, piece.b, length);
+    const auto value = [&piece](double t) { return piece.first * (1.0 - t) + piece.last * t; };
+    if (!part.IsEmpty()) {
+        m_pieces.push_back({part.a, part.b, value(part.atA), value(part.atB)});
     }
 }
 
 void SpanLoads::AddPoint(double a, const Vec3<double>& value, double length) {
-    const double slack = kRoundOff * length;
-    if (a >= -slack && a <= length + slack) {
+    if (IsOnSpan(a, length)) {
         m_points.push_back({std::clamp(a, 0.0, length), CPosOn1D::FromFraction(a / length), value});
     }
 }

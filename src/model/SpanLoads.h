@@ -16,6 +16,24 @@ struct SpanPiece {
     Vec3<double> last;
 };
 
+/// What of a stretch between two places lies on a span: its ends, ascending, and where these are in
+/// the stretch, 0 at its first place and 1 at its second.
+struct SpanPart {
+    double a = 0.0;
+    double b = 0.0;
+    double atA = 0.0;
+    double atB = 1.0;
+
+    bool IsEmpty() const { return !(a < b); }
+};
+
+/// The part between 0 and `length` of a stretch whose places stand in either order; empty when
+/// there is none, or a place is not finite.
+SpanPart PartOnSpan(double first, double second, double length);
+
+/// Whether a place is between 0 and `length`, or beyond by no more than round-off.
+bool IsOnSpan(double place, double length);
+
 /// A force or moment in element axes at `a` m from end 1.
 struct SpanPoint {
     double a = 0.0;

@@ -15,16 +15,6 @@ namespace {
 /// Share of a load below which a component in global axes is round-off.
 constexpr double kLeastShare = 1e-12;
 
-/// A load between two places; without the second one it is concentrated.
-struct Span {
-    bool isFraction = false;
-    double from = 0.0;
-    double fromValue = 0.0;
-    double to = 0.0;
-    double toValue = 0.0;
-    bool isPoint = false;
-};
-
 /// Words of a direction. Kept as files in the field have them: the same words stand for global and
 /// element axes, and those that end in E for projected loads, which the target takes for element
 /// axes.
@@ -41,26 +31,12 @@ std::string_view ScaleWord(bool isFraction) {
     return isFraction ? "PR" : "LE";
 }
 
-/// Position of a point as a length, unless both points of its load are fractions.
-double PositionOf(const Data::LoadPoint& point, bool asFraction, double length) {
-    return point.isFraction && !asFraction ? point.position * length : point.position;
-}
-
-/// Where a load acts. Positions are fractions where the host gives them so; uniform and linear
-/// loads run over the length of the element.
-Span SpanOf(const Data::CBeamLoad& load, double length) {
-    switch (load.TypeOf()) {
-        case BeamLoadType::Point:
-            return {load.PosIsFraction(1), load.Pos(1), load.Value(1), 0.0, 0.0, true};
-        case BeamLoadType::Patch: {
-            const bool isFraction = load.PosIsFraction(1) && load.PosIsFraction(2);
-            return {isFraction,    PositionOf(load.Point(1), isFraction, length),
-                    load.Value(1), PositionOf(load.Point(2), isFraction, length),
-                    load.Value(2), false};
-        }
-        default:
-            return {false, 0.0, load.Value(1), length, load.Value(2), false};
-    }
+/// Whether the places of a load are written as fractions: where the host gives them so. Uniform and
+/// linear loads run over the length of the element.
+bool HasFractions(const Data::CBeamLoad& load) {
+    return load.PosIsFraction(1) &&
+           (load.TypeOf() == BeamLoadType::Point ||
+            (load.TypeOf() == BeamLoadType::Patch && load.PosIsFraction(2)));
 }
 
 /// Whether one card can carry a load.
@@ -90,9 +66,18 @@ bool CNasFile::WriteBeamLoad(const Data::CBeamLoad& load) {
         AddError(L"this feature does not support non-uniform member loads");
         return false;
     }
+    int beyond = 0;
     for (const int element : elements) {
-        WriteBeamLoadOn(load, element);
+        const double length = m_model->ElemLen(element);
+        const bool isOn = load.TypeOf() == BeamLoadType::Point
+                              ? IsOnElement(load.Point(1), length)
+                              : !StretchOf(load, length, false).IsEmpty();
+        beyond += isOn ? 0 : 1;
+        if (isOn) {
+            WriteBeamLoadOn(load, element);
+        }
     }
+    SkipMany(beyond, L"elements", L"it lies beyond their ends");
     return true;
 }
 
@@ -122,19 +107,22 @@ void CNasFile::WriteBeamLoadOn(const Data::CBeamLoad& load, int element) {
 
 void CNasFile::WriteBeamLoadCard(const Data::CBeamLoad& load, int element, std::string_view type,
                                  double share) {
-    const Span span = SpanOf(load, m_model->ElemLen(element));
+    const bool isFraction = HasFractions(load);
     StartCard("PLOAD1");
     AddInt(load.LoadCase());
     AddInt(element);
     AddTextField(type);
-    AddTextField(ScaleWord(span.isFraction));
-    AddReal(span.from);
-    AddReal(span.fromValue * share);
-    if (span.isPoint) {
+    AddTextField(ScaleWord(isFraction));
+    if (load.TypeOf() == BeamLoadType::Point) {
+        AddReal(load.Pos(1));
+        AddReal(load.Value(1) * share);
         AddBlankFields(2);
     } else {
-        AddReal(span.to);
-        AddReal(span.toValue * share);
+        const LoadedStretch on = StretchOf(load, m_model->ElemLen(element), isFraction);
+        AddReal(on.from);
+        AddReal(on.fromValue * share);
+        AddReal(on.to);
+        AddReal(on.toValue * share);
     }
     EndCard();
 }

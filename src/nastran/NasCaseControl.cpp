@@ -179,6 +179,10 @@ bool CNasFile::HasLoad(int loadCase, unsigned kinds) const {
     return i < m_loadKinds.size() && (m_loadKinds[i] & kinds) != 0;
 }
 
+bool CNasFile::IsLoadCase(int number) const {
+    return number >= 1 && number <= m_model->HighestLoadCase();
+}
+
 int CNasFile::GravityCase(int loadCase) const {
     const auto i = static_cast<std::size_t>(loadCase) - 1;
     return i < m_gravityCases.size() ? m_gravityCases[i] : loadCase;
@@ -205,6 +209,10 @@ void CNasFile::WriteBucklingLoads() {
     std::map<int, double> factors;
     for (const CaseDescPart::Load& load : m_bucklingCase.Desc().Factors(0)) {
         factors[load.loadCase] = load.factor;
+        if (!IsLoadCase(load.loadCase)) {
+            AddNote(L"The loads of the buckling analysis name load case " +
+                    std::to_wstring(load.loadCase) + L", which does not exist");
+        }
     }
     StartCard("LOAD");
     AddInt(m_bucklingSet);
@@ -217,8 +225,8 @@ void CNasFile::WriteBucklingLoads() {
 void CNasFile::AddLoadPairs(const std::map<int, double>& factors) {
     const auto addPairs = [this, &factors](bool ofMoved) {
         for (const auto& [loadCase, factor] : factors) {
-            const bool isKnown = loadCase >= 1 && loadCase <= m_model->HighestLoadCase();
-            if (isKnown && factor != 0.0 && (!ofMoved || GravityCase(loadCase) != loadCase)) {
+            if (IsLoadCase(loadCase) && factor != 0.0 &&
+                (!ofMoved || GravityCase(loadCase) != loadCase)) {
                 AddReal(factor);
                 AddInt(ofMoved ? GravityCase(loadCase) : loadCase);
             }
@@ -251,13 +259,23 @@ void CNasFile::WriteCombination(int combination, int set) {
     std::map<int, double> factors;
     for (const int number : desc.AnalysisCases(*m_model, 1)) {
         const double outer = desc.CaseFactor(*m_model, 1, AnalysisRef(number));
-        for (const auto& load : m_model->AnalysisCase(number).Desc().Factors(0)) {
+        const auto loads = m_model->AnalysisCase(number).Desc().Factors(0);
+        if (loads.empty()) {
+            Skip(L"analysis case " + std::to_wstring(number) +
+                 L" takes no part, as it has no loads");
+        }
+        for (const auto& load : loads) {
             factors[load.loadCase] += outer * load.factor;
         }
     }
     const std::size_t left =
         std::erase_if(factors, [](const auto& factor) { return !std::isfinite(factor.second); });
     SkipMany(static_cast<int>(left), L"load cases", L"they take part through an envelope");
+    if (std::none_of(factors.begin(), factors.end(), [this](const auto& factor) {
+            return IsLoadCase(factor.first) && factor.second != 0.0;
+        })) {
+        Skip(L"no load case takes part in it, which leaves its card without sets");
+    }
     StartCard("LOAD");
     AddInt(set);
     AddReal(1.0);

@@ -14,7 +14,7 @@ namespace {
 
 /// The nodes that name the loaded face of a solid: opposite corners of four; of a triangle of a
 /// wedge a corner alone, of a tetrahedron a corner and the node off the face, of a pyramid the two
-/// corners at its base.
+/// corners at its base, in the order that has the normal inwards.
 struct FaceNodes {
     int g1 = 0;
     int g3 = 0;  ///< 0 none
@@ -29,7 +29,7 @@ FaceNodes NodesOfFace(const Data::CElement& record, const SolidFace& face) {
         case ElementType::Tetra4:
             return {first, record.Topo(10 - face[0] - face[1] - face[2])};
         case ElementType::Pyramid5:
-            return {first, record.Topo(face[1])};
+            return {record.Topo(face[1]), first};
         default:
             return {first, 0};
     }
@@ -132,7 +132,7 @@ void CNasFile::AddFaceDirection(const Data::CFaceLoad& load, int element) {
     direction[static_cast<int>(load.GetDirection())] = 1.0;
     AddInt(CoordinateSystem(inElementAxes ? 0 : load.Axis()));
     AddReals(inElementAxes ? WithoutRoundOff(m_model->ElemDC(element).AxisVec(load.GetDirection()))
-                           : direction);
+                           : InTargetAxes(load.Axis(), direction));
 }
 
 }  // namespace Tevra

@@ -110,6 +110,9 @@ private:
     void FindWrittenProperties();
     void FindWrittenElements();
     bool IsAxisWritten(int axis) const;
+    /// A direction in a host axis in the order of the target's axis: of a spherical one outwards,
+    /// down and round, where the host's are outwards, round and up.
+    Vec3<double> InTargetAxes(int axis, const Vec3<double>& v) const;
     /// The material that an exported property has first, null when there is none.
     const Data::CMatAnal* MaterialOf(const std::vector<ExportedProperty>& property) const;
     const Data::CMatAnal* MaterialOf(const ExportedProperty& property) const;
@@ -144,6 +147,7 @@ private:
     bool WriteEigenCards();
     void WriteBucklingLoads();
     /// The set under which the gravity loads of a load case are written.
+    bool IsLoadCase(int number) const;
     int GravityCase(int loadCase) const;
     void AddLoadPairs(const std::map<int, double>& factors);
 
@@ -160,6 +164,7 @@ private:
     bool WriteElements();
     void WriteElement(int element);
     void WriteLine(int element, std::string_view card);
+    Vec3<double> EndOffset(int element, int end) const;
     void AddLineTail(int element, bool hasReleases);
     void WriteSpring(int element);
     void WritePlane(int element, std::string_view card);

@@ -63,6 +63,12 @@ bool CNasFile::IsAxisWritten(int axis) const {
            IsFinite(record->ZAxis());
 }
 
+Vec3<double> CNasFile::InTargetAxes(int axis, const Vec3<double>& v) const {
+    const bool isSpherical =
+        m_model->AxisExist(axis) && m_model->Axis(axis).TypeOf() == AxisType::Spherical;
+    return isSpherical ? Vec3<double>{v.x, -v.z, v.y} : v;
+}
+
 bool CNasFile::WriteAxes() {
     StartSection("Axis systems");
     for (const int number : m_model->AxisTable().Numbers()) {
@@ -75,6 +81,11 @@ bool CNasFile::WriteAxes() {
         AddReals(axis.Origin() + axis.ZAxis());
         AddReals(axis.Origin() + axis.XAxis());
         EndCard();
+        if (axis.TypeOf() == AxisType::Spherical) {
+            AddNote(L"Axis", number,
+                    L"has its second and third direction in the target's order, which is down and "
+                    L"round where the host's is round and up");
+        }
     }
     return true;
 }
@@ -176,6 +187,9 @@ void CNasFile::WriteNodeMass(int node, int property) {
     AddReal(mass.Mass());
     AddReals({0.0, 0.0, 0.0});
     AddBlankFields(1);
+    if (mass.HasInertia() && mass.Axis() != m_model->Node(node).Axis()) {
+        AddNote(L"The mass at node", node, L"is written in the axes of the node, not in its own");
+    }
     // The lower triangle; products are positive integrals in both programs.
     for (const double term :
          {inertia.xx, inertia.xy, inertia.yy, inertia.zx, inertia.yz, inertia.zz}) {

@@ -15,12 +15,6 @@ Vec3<double> OrientationVector(const CVynData& model, int element) {
     return WithoutRoundOff(model.ElemDC(element).AxisVec(2));
 }
 
-/// Offset of an end as OFFT "BGG" has it read: in the displacement axes of the end's node.
-Vec3<double> EndOffset(const CVynData& model, int element, int end) {
-    const int node = model.Elem(element).Topo(end);
-    return model.NodeDC(node).GtoL(model.TotalGlobalOffset(element, end));
-}
-
 /// Pin flags in the target's axes, in which the host's y and z have changed places: a release in
 /// local y is digit 3.
 std::string PinFlags(Vbool6 released) {
@@ -67,6 +61,13 @@ void CNasFile::WriteLine(int element, std::string_view card) {
     }
 }
 
+/// Offset of an end as OFFT "BGG" has it read: in the displacement axes of the end's node.
+Vec3<double> CNasFile::EndOffset(int element, int end) const {
+    const int node = m_model->Elem(element).Topo(end);
+    return InTargetAxes(m_model->Node(node).Axis(),
+                        m_model->NodeDC(node).GtoL(m_model->TotalGlobalOffset(element, end)));
+}
+
 /// Orientation, releases and offsets. Kept: rods and gaps have the tail of the bars, though their
 /// own cards end before it.
 void CNasFile::AddLineTail(int element, bool hasReleases) {
@@ -76,8 +77,8 @@ void CNasFile::AddLineTail(int element, bool hasReleases) {
     for (const int end : {1, 2}) {
         AddTextField(hasReleases ? PinFlags(record.Connect(end).Released()) : std::string());
     }
-    AddReals(EndOffset(*m_model, element, 1));
-    AddReals(EndOffset(*m_model, element, 2));
+    AddReals(EndOffset(element, 1));
+    AddReals(EndOffset(element, 2));
 }
 
 }  // namespace Tevra

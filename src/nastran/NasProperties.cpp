@@ -25,8 +25,6 @@ namespace {
 constexpr std::string_view kShapeGroup = "MSCBML0";
 /// Product of inertia below which none is written, m4.
 constexpr double kLeastIyz = 1e-10;
-/// Share of the second moments below which a product of inertia is round-off.
-constexpr double kPrincipalShare = 1e-6;
 /// Gap of a tie, m: open from the beginning, so that linear solutions take its open stiffness.
 constexpr double kTieGap = 1e-9;
 
@@ -87,11 +85,6 @@ Box BoxOf(const CSection& section) {
         }
     }
     return box;
-}
-
-/// Whether the principal axes of a section are those of its elements.
-bool IsPrincipalAxes(const SectionProperties& p) {
-    return !(std::abs(p.iyz) > kPrincipalShare * (p.iyy + p.izz));
 }
 
 }  // namespace
@@ -224,7 +217,7 @@ void CNasFile::WriteBar(int section, const ExportedProperty& property) {
     for (const double value : {p.area, p.iyy, p.izz, p.j, 0.0}) {
         AddReal(value);
     }
-    if (!IsPrincipalAxes(p)) {
+    if (!p.HasPrincipalAxes()) {
         AddBlankFields(1);
         AddStressPoints(section);
         AddBlankFields(2);

@@ -81,7 +81,11 @@ void COpenseesFile::WriteHeader(TextOut& out) const {
 }
 
 void COpenseesFile::WriteNodes(OpsContext& c) {
+    constexpr int kDigits = 6;
     c.out.Append("\n# node coordinates\n");
+    if (const std::wstring note = NoteOfCoarseCoordinates(*m_model, kDigits); !note.empty()) {
+        AddNote(note);
+    }
     for (const int number : m_model->NodeTable().Numbers()) {
         const Vec3<double>& at = m_model->Node(number).Position();
         c.line.Append("node ").Int(number).Append(' ').General(at.x);

@@ -19,6 +19,23 @@ bool AnyInCase(const NumberedTable<Load>& loads, int loadCase) {
                        [&](int number) { return loads.Get(number).LoadCase() == loadCase; });
 }
 
+/// Where an element lies between its nodes, which are its ends in the file: from `start`, over
+/// `share` of their distance.
+struct BetweenNodes {
+    double start = 0.0;
+    double share = 1.0;
+};
+
+BetweenNodes PlaceOf(const CVynData& model, int element) {
+    const Data::COffset& offset = model.Elem(element).Offset();
+    if (offset.X1() == 0.0 && offset.X2() == 0.0) {
+        return {};
+    }
+    const double length = model.ElemLen(element);
+    const double nodes = length + offset.X1() - offset.X2();
+    return {offset.X1() / nodes, length / nodes};
+}
+
 void TellIf(bool has, const wchar_t* text) {
     if (has) {
         Host().ShowMessage(text);
@@ -110,32 +127,44 @@ bool COpenseesFile::WriteBeamLoads(OpsContext& c) {
     return true;
 }
 
+/// A place is told between the nodes, and a load on an element with offsets along it keeps its sum.
 /// Kept: the part along the element has no place in the commands as they are written.
 void COpenseesFile::WriteBeamLoad(OpsContext& c, int number) {
     const Data::CBeamLoad& load = m_model->BeamLoad(number);
     const bool isPoint = load.TypeOf() == BeamLoadType::Point;
     bool hasAxial = false;
     int others = 0;
+    int beyond = 0;
     for (const int element : load.GetLoadedElements(*m_model, 1)) {
         if (c.WrittenAs(element) != OpsKind::Beam) {
             ++others;
             continue;
         }
-        const Vec3<double> value =
-            WithoutRoundOff(UnitBeamLoad(*m_model, load, element) * load.Value(1));
+        const double length = m_model->ElemLen(element);
+        if (isPoint && !IsOnElement(load.Point(1), length)) {
+            ++beyond;
+            continue;
+        }
+        const BetweenNodes place = PlaceOf(*m_model, element);
+        const Vec3<double> value = WithoutRoundOff(UnitBeamLoad(*m_model, load, element) *
+                                                   (load.Value(1) * (isPoint ? 1.0 : place.share)));
         hasAxial = hasAxial || value.x != 0.0;
         c.line.Append("eleLoad -ele ").Int(element).Append(" -type ");
         c.line.Append(isPoint ? "-beamPoint " : "-beamUniform ");
         c.line.General(value.y).Append(' ').General(value.z);
         if (isPoint) {
-            c.line.Append(' ').General(
-                load.PosIsFraction(1) ? load.Pos(1) : load.Pos(1) / m_model->ElemLen(element));
+            const double at = load.PosIsFraction(1) ? load.Pos(1) : load.Pos(1) / length;
+            c.line.Append(' ').General(place.start + at * place.share);
         }
         End(c, L"Beam load", number);
     }
     const std::wstring name = L"Beam load " + std::to_wstring(number);
     if (hasAxial) {
         AddNote(name + L" is exported without its part along the elements");
+    }
+    if (beyond > 0) {
+        AddNote(name + L" is not exported for " + std::to_wstring(beyond) +
+                L" elements as it lies beyond their ends");
     }
     if (others > 0) {
         AddNote(name + L" is not exported for " + std::to_wstring(others) +

@@ -61,6 +61,9 @@ void COpenseesFile::WriteSections(OpsContext& c) {
             continue;
         }
         const SectionProperties& p = section.properties;
+        if (!p.HasPrincipalAxes()) {
+            AddNote(L"Section", number, L"is exported without its product of inertia");
+        }
         c.line.Append("section Elastic ").Int(number);
         for (const double value : {section.e, p.area, p.izz, p.iyy, section.g, p.j}) {
             c.line.Append(' ').General(value);

@@ -28,6 +28,11 @@ public:
                              [](const Entry& a, const Entry& b) { return a.first < b.first; });
         return {first, last};
     }
+    /// Those that have no load case.
+    std::span<const Entry> WithoutCase() const {
+        const auto last = std::lower_bound(m_entries.begin(), m_entries.end(), Entry{1, 0});
+        return {m_entries.begin(), last};
+    }
     bool IsEmpty() const { return m_entries.empty(); }
 
 private:

@@ -92,6 +92,8 @@ private:
     bool IsCurved(int axis) const;
     /// Ends a record; notes it when it is left out, as one of its values is not a number.
     /// Elements of the file that a load acts on; notes the others.
+    void NoteLoadsWithoutCase(const SapContext& c);
+    std::vector<int> FramesUnder(SapContext& c, const Data::CBeamLoad& load, int number);
     std::vector<int> LoadedFrames(SapContext& c, const Data::CLoadBase& load, const wchar_t* kind,
                                   int number);
     std::vector<int> LoadedFaces(SapContext& c, const Data::CLoadBase& load, const wchar_t* kind,

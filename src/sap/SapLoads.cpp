@@ -37,6 +37,20 @@ bool CSapFile::IsCurved(int axis) const {
     return m_model->AxisExist(axis) && m_model->Axis(axis).TypeOf() != AxisType::Cartesian;
 }
 
+void CSapFile::NoteLoadsWithoutCase(const SapContext& c) {
+    const std::pair<const LoadsByCase&, const wchar_t*> kinds[] = {
+        {c.gravity, L"Gravity load"},   {c.nodeLoads, L"Node load"},
+        {c.settlements, L"Settlement"}, {c.beamLoads, L"Beam load"},
+        {c.axialLoads, L"Axial load"},  {c.beamTemperatures, L"Beam thermal load"},
+        {c.faceLoads, L"Face load"},    {c.faceTemperatures, L"Face thermal load"},
+    };
+    for (const auto& [loads, kind] : kinds) {
+        for (const auto& [loadCase, number] : loads.WithoutCase()) {
+            AddNote(kind, number, L"is not exported as it has no load case");
+        }
+    }
+}
+
 bool CSapFile::WriteLoads(SapContext& c) {
     const CVynData& model = *m_model;
     if (model.NumAppliedDisplacement() == 0 && c.gravity.IsEmpty() && c.nodeLoads.IsEmpty() &&
@@ -51,6 +65,7 @@ bool CSapFile::WriteLoads(SapContext& c) {
         &CSapFile::WriteSpanLoads,        &CSapFile::WriteFaceLoads,
         &CSapFile::WriteBeamTemperatures, &CSapFile::WriteFaceTemperatures,
     };
+    NoteLoadsWithoutCase(c);
     c.out.Append("LOAD\n");
     for (const int loadCase : model.LoadCases().Numbers()) {
         for (const Group group : kGroups) {
@@ -154,7 +169,11 @@ bool CSapFile::WriteNodeForces(SapContext& c, int loadCase) {
 void CSapFile::WriteNodeForce(SapContext& c, int number, int& axis) {
     const Data::CNodeLoad& load = m_model->NodeLoad(number);
     bool hasCurved = false;
-    for (const int node : SapLoadedNodes(*m_model, load)) {
+    const std::vector<int> nodes = SapLoadedNodes(*m_model, load);
+    if (nodes.empty()) {
+        AddNote(L"Node load", number, L"is not exported as it loads no node of the file");
+    }
+    for (const int node : nodes) {
         const int named = AxisOfNodeLoad(*m_model, load, node);
         if (IsCurved(named)) {
             hasCurved = true;

@@ -17,22 +17,25 @@ void AddPosition(RecordText& line, double position, bool isFraction) {
     line.Append(isFraction ? "    RD=" : "    D=").Padded(position);
 }
 
-/// The ends of a distributed load: fractions where one of them is.
-void AddPositions(RecordText& line, const CVynData& model, const Data::CBeamLoad& load,
-                  int element) {
-    const Data::LoadPoint ends[] = {load.Point(1), load.Point(2)};
-    const bool isMixed = ends[0].isFraction != ends[1].isFraction;
-    const double length = isMixed ? model.ElemLen(element) : 0.0;
-    for (const Data::LoadPoint& end : ends) {
-        AddPosition(line, isMixed && !end.isFraction ? end.position / length : end.position,
-                    isMixed || end.isFraction);
-    }
-}
-
 /// Whether the line of a distributed load is the same for all elements, but for their numbers.
 bool IsAlikeOnAll(const Data::CBeamLoad& load) {
-    return load.Axis() != kLocalAxis && !load.IsProjected() &&
-           load.PosIsFraction(1) == load.PosIsFraction(2);
+    return load.Axis() != kLocalAxis && !load.IsProjected() && load.PosIsFraction(1) &&
+           load.PosIsFraction(2);
+}
+
+/// What of a distributed load lies on an element: fractions where one of its places is one.
+LoadedStretch StretchOn(const CVynData& model, const Data::CBeamLoad& load, int element) {
+    const bool areFractions = load.PosIsFraction(1) && load.PosIsFraction(2);
+    return StretchOf(load, areFractions ? 1.0 : model.ElemLen(element),
+                     load.PosIsFraction(1) || load.PosIsFraction(2));
+}
+
+/// Whether any of a load lies on an element.
+bool IsOn(const CVynData& model, const Data::CBeamLoad& load, int element) {
+    if (load.TypeOf() != BeamLoadType::Point) {
+        return !StretchOn(model, load, element).IsEmpty();
+    }
+    return IsOnElement(load.Point(1), load.PosIsFraction(1) ? 1.0 : model.ElemLen(element));
 }
 
 /// What the values of a projected load are multiplied by, so that the load keeps its total.
@@ -54,6 +57,19 @@ bool CSapFile::WriteSpanLoads(SapContext& c, int loadCase) {
     return true;
 }
 
+/// The frames on which any of a load lies.
+std::vector<int> CSapFile::FramesUnder(SapContext& c, const Data::CBeamLoad& load, int number) {
+    std::vector<int> frames = LoadedFrames(c, load, L"Beam load", number);
+    const std::size_t beyond =
+        std::erase_if(frames, [&](int element) { return !IsOn(*m_model, load, element); });
+    if (beyond > 0) {
+        AddNote(L"Beam load", number,
+                L"is not exported for " + std::to_wstring(beyond) +
+                    L" elements as it lies beyond their ends");
+    }
+    return frames;
+}
+
 /// Loads in a user axis are turned into global components, so that one axis serves them all.
 void CSapFile::WritePointLoads(SapContext& c, int loadCase) {
     bool hasType = false;
@@ -69,7 +85,7 @@ void CSapFile::WritePointLoads(SapContext& c, int loadCase) {
             AddNote(kCurvedNote);
             continue;
         }
-        const std::vector<int> elements = LoadedFrames(c, load, L"Beam load", number);
+        const std::vector<int> elements = FramesUnder(c, load, number);
         if (load.Axis() != kLocalAxis && !hasAxis && !elements.empty()) {
             c.out.Append("    CSYS=0\n");
             hasAxis = true;
@@ -115,7 +131,7 @@ bool CSapFile::WriteDistributedLoads(SapContext& c, int loadCase) {
             AddNote(kCurvedNote);
             continue;
         }
-        const std::vector<int> elements = LoadedFrames(c, load, L"Beam load", number);
+        const std::vector<int> elements = FramesUnder(c, load, number);
         if (load.TypeOf() == BeamLoadType::Trilinear) {
             AddError(L"this feature does not suppor non-uniform member loads");
             return false;
@@ -141,15 +157,18 @@ void CSapFile::AddDistributedLoad(RecordText& line, const Data::CBeamLoad& load,
                                   int element) const {
     const Direction d = load.GetDirection();
     const double share = ProjectedShare(*m_model, load, element);
+    const LoadedStretch on = StretchOn(*m_model, load, element);
     if (load.Axis() == kLocalAxis) {
         const LocalKey key = LocalKeyOf(d, m_model->ElemIsVertical(element));
-        line.Append(key.word).Append('=').Padded(key.sign * share * load.Value(1));
-        line.Append(',').Padded(key.sign * share * load.Value(2));
+        line.Append(key.word).Append('=').Padded(key.sign * share * on.fromValue);
+        line.Append(',').Padded(key.sign * share * on.toValue);
     } else {
-        line.Append(JoinedKey(d)).Append('=').Padded(share * load.Value(1));
-        line.Append(", ").Padded(share * load.Value(2));
+        line.Append(JoinedKey(d)).Append('=').Padded(share * on.fromValue);
+        line.Append(", ").Padded(share * on.toValue);
     }
-    AddPositions(line, *m_model, load, element);
+    const bool areFractions = load.PosIsFraction(1) || load.PosIsFraction(2);
+    AddPosition(line, on.from, areFractions);
+    AddPosition(line, on.to, areFractions);
 }
 
 /// Strains and lacks of fit become the force that they are in a member held at both ends.

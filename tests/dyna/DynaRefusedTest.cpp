@@ -102,6 +102,14 @@ TEST(DynaRefused, NumbersBelowOneAndEntriesThatLackNodes) {
     }
 }
 
+TEST(DynaRefused, NumbersThatAModelCanNotHold) {
+    std::string nodes = "*NODE\n";
+    for (int i = 0; i < 1200; ++i) {
+        nodes += std::to_string(10'000'000 + i * 20'000) + "\n";
+    }
+    ExpectRefused({nodes, 1026, "node 30480000: the numbers are too scattered"});
+}
+
 TEST(DynaRefused, LinesThatCanNotBeTold) {
     const std::string beam = "       1       1       1       2       3\n";
     const std::string shell8 =

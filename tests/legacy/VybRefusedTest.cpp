@@ -56,7 +56,6 @@ TEST_F(VybRefusedTest, Refused) {
         {"no length", [](VybWriter& f) { f.lengths[10] = 0; }},
         {"place outside", [](VybWriter& f) { f.entries[5] = 999'999; }},
         {"titles outside", [](VybWriter& f) { f.entries[17] = 500; }},
-        {"results outside", [](VybWriter& f) { f.entries[21] = 1'000'500; }},
         {"solution", [](VybWriter& f) { f.entries[21] = 6'000'004; }},
         {"number", [](VybWriter& f) { f.Add(9, VybFields{0}.PadTo(32)); }},
         {"not finite", [](VybWriter& f) { f.Add(9, VybFields{1}.Reals({INFINITY}).PadTo(32)); }},
@@ -100,6 +99,16 @@ TEST_F(VybRefusedTest, Refused) {
         EXPECT_TRUE(m_model == CVynData()) << c.what;
         EXPECT_TRUE(m_messages.empty());
     }
+}
+
+TEST_F(VybRefusedTest, ResultsBeyondTheFileEndTheCases) {
+    ASSERT_TRUE(Read(SmallVyb()));
+    const int whole = m_model.NumAnalysisCase();
+    VybWriter file = SmallVyb();
+    file.entries[21] = 1'000'500;
+    EXPECT_TRUE(Read(file));
+    EXPECT_LT(m_model.NumAnalysisCase(), whole);
+    EXPECT_GT(m_model.NumNode(), 0);
 }
 
 TEST_F(VybRefusedTest, ScatteredNumbersAreRefused) {

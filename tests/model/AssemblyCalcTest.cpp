@@ -203,6 +203,26 @@ TEST(AssemblyCalc, MiddleOffTheLineAndOneColumn) {
     ExpectNear(row.rot, {floor.rotation.x * 2.0, floor.rotation.y, floor.rotation.z}, 1e-8);
 }
 
+TEST(AssemblyCalc, AStoreyAlongTheLineHasNoPosition) {
+    CVynData model;
+    model.SetNode(1, Data::CNode({0.3, 0.1, 0.7}));
+    model.SetNode(2, Data::CNode({1.1, 2.3, 0.7}));
+    Data::CAssembly assembly;
+    assembly.SetTopo(1, 1);
+    assembly.SetTopo(2, 2);
+    assembly.SetStoreys({L"1 2", SelType::GridPlane});
+    model.SetAssembly(1, assembly);
+    Data::CAxis axis;  // its z is square to the line but for round-off
+    axis.SetXAxis({0.8, 2.2, 0.0});
+    axis.SetXYPlane({0.1, 0.2, 1.0});
+    model.SetAxis(1, axis);
+    Data::CGridPlane plane;
+    plane.SetAxis(1);
+    plane.SetElevation(1.0);
+    model.SetGridPlane(1, plane);
+    EXPECT_TRUE(CAssemblyCalc::Positions(model, 1, 0).empty());
+}
+
 TEST(AssemblyCalc, MissingThingsGiveNoNumbers) {
     CVynData model = Tower();
     const auto isMissing = [&](const SCaseRef& ref, double position) {

@@ -242,6 +242,36 @@ TEST(InterCalc, FactorsOfTheCaseAndItsKind) {
     EXPECT_NEAR(shear(L"L1"), 0.0, 1e-9);
 }
 
+/// A plane frame's results leave out what stands square to its plane: the figures that are there
+/// are those of a model that has zeros for the others.
+TEST(InterCalc, AMissingFigureSpoilsNoOther) {
+    const CVynData whole = ModelOf(kBeamCases[0], kSettings[0]);
+    const double none = std::nan("");
+    CVynData plane = whole;
+    CaseResults& results = plane.EditResults().Edit(1);
+    const auto blank = [&](ResultKind kind, int entity, int rows) {
+        std::vector<double> values;
+        for (int row = 0; row < rows; ++row) {
+            const double* given = results.Find(kind)->Row(entity, row);
+            values.insert(values.end(), {given[0], none, given[2], none, given[4], none});
+        }
+        results.Edit(kind).Set(entity, values);
+    };
+    blank(ResultKind::NodeDisp, 1, 1);
+    blank(ResultKind::NodeDisp, 2, 1);
+    blank(ResultKind::Elem1DForce, 1, 2);
+    for (const InterKind kind : {InterKind::Displacement, InterKind::Force}) {
+        for (const double t : {0.0, 0.5, 1.0}) {
+            const InterResult known = At(whole, kind, t);
+            const InterResult found = At(plane, kind, t);
+            EXPECT_TRUE(std::isnan(found.tran.y) && std::isnan(found.rot.z));
+            EXPECT_EQ(found.tran.x, known.tran.x);
+            EXPECT_EQ(found.tran.z, known.tran.z);
+            EXPECT_EQ(found.rot.y, known.rot.y);
+        }
+    }
+}
+
 TEST(InterCalc, NoResultsWithoutLengthOrCase) {
     const auto isMissing = [](const InterResult& r) {
         return std::isnan(r.tran.x) && std::isnan(r.tran.z) && std::isnan(r.rot.y);

@@ -37,6 +37,57 @@ TEST(LoadValues, MeanPressuresKeepTheForce) {
     EXPECT_TRUE(std::isnan(MeanPressure(model, load, 2)));
 }
 
+/// On a trapezium of sides 4 and 2, 2 m high, the long side has more of the area than its half:
+/// the sum of a pressure that falls from the long side to none at the other is 10000 N.
+TEST(LoadValues, MeanPressureOfAFaceThatIsNoParallelogram) {
+    CVynData model = PlateModel();
+    model.SetNode(2, Data::CNode({4, 0, 0}));
+    model.SetNode(3, Data::CNode({3, 2, 0}));
+    model.SetNode(4, Data::CNode({1, 2, 0}));
+    auto load = LoadOn<Data::CFaceLoad>(L"1");
+    load.SetType(FaceLoadType::Corners);
+    load.SetValues({-3000.0, -3000.0, 0.0, 0.0});
+    EXPECT_NEAR(MeanPressure(model, load, 1) * 6.0, -10000.0, 1e-8);
+    load.SetType(FaceLoadType::Equation);
+    load.SetEquation({0.0, 0.0, -1000.0, 0.0});
+    EXPECT_NEAR(MeanPressure(model, load, 1) * 6.0, -16000.0 / 3.0, 1e-8);
+}
+
+TEST(LoadValues, StretchesLieOnTheElement) {
+    struct Case {
+        Data::LoadPoint first;
+        Data::LoadPoint second;
+        bool asFractions;
+        LoadedStretch on;
+    };
+    const Case cases[] = {
+        {{0.25, true, 1.0}, {0.75, true, 3.0}, true, {0.25, 0.75, 1.0, 3.0}},
+        {{0.25, true, 1.0}, {3.0, false, 3.0}, false, {1.0, 3.0, 1.0, 3.0}},
+        {{0.75, true, 1.0}, {0.25, true, 3.0}, true, {0.25, 0.75, 3.0, 1.0}},
+        {{3.0, false, 1.0}, {5.0, false, 3.0}, false, {3.0, 4.0, 1.0, 2.0}},
+        {{-2.0, false, 0.0}, {2.0, false, 4.0}, false, {0.0, 2.0, 2.0, 4.0}},
+        {{-1.0, false, 2.0}, {8.0, false, 2.0}, true, {0.0, 1.0, 2.0, 2.0}},
+    };
+    for (const Case& c : cases) {
+        Data::CBeamLoad load;
+        load.SetType(BeamLoadType::Patch);
+        load.SetPoint(1, c.first);
+        load.SetPoint(2, c.second);
+        const LoadedStretch on = StretchOf(load, 4.0, c.asFractions);
+        EXPECT_EQ(on.from, c.on.from);
+        EXPECT_EQ(on.to, c.on.to);
+        EXPECT_DOUBLE_EQ(on.fromValue, c.on.fromValue);
+        EXPECT_DOUBLE_EQ(on.toValue, c.on.toValue);
+        load.SetPoint(1, {4.5, false, 1.0});
+        load.SetPoint(2, {5.0, false, 1.0});
+        EXPECT_TRUE(StretchOf(load, 4.0, c.asFractions).IsEmpty());
+    }
+    EXPECT_TRUE(IsOnElement({1.0, true, 0.0}, 4.0));
+    EXPECT_TRUE(IsOnElement({4.0, false, 0.0}, 4.0));
+    EXPECT_FALSE(IsOnElement({1.25, true, 0.0}, 4.0));
+    EXPECT_FALSE(IsOnElement({-0.5, false, 0.0}, 4.0));
+}
+
 TEST(LoadValues, TemperaturesThroughASection) {
     Data::CBeamThermalLoad beam;
     beam.SetType(BeamThermalType::GradientZ);

@@ -68,6 +68,22 @@ TEST(NumberedTable, DeletingTheHighestLowersIt) {
     EXPECT_EQ(table.Count(), 0);
 }
 
+TEST(NumberedTable, HasRoomForRecordsThatLieTogether) {
+    NumberedTable<int> table;
+    int scattered = 0;
+    for (int number = 1; table.HasRoomFor(number); number += 20'000) {
+        table.Set(number, 1);
+        ++scattered;
+    }
+    EXPECT_GT(scattered, 1000);
+    EXPECT_LT(scattered, 1200);
+    EXPECT_TRUE(table.HasRoomFor(2));  // beside one that is there
+    for (int number = 2; number < 2000; ++number) {
+        table.Set(number, 1);
+    }
+    EXPECT_TRUE(table.HasRoomFor(1'900'000'000));  // many records may lie wider apart
+}
+
 TEST(NumberedTable, CopiesAreApartAndMovedFromTablesAreEmpty) {
     NumberedTable<int> table;
     table.Set(70'000, 5);

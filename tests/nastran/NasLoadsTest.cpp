@@ -203,6 +203,12 @@ TEST_F(NasLoads, BeamLoads) {
          {0.25, true, 3},
          {3.0, false, 5},
          {"FZ", "LE", "1.000000e+0", "3.000000e+0", "3.000000e+0", "5.000000e+0"}},
+        {BeamLoadType::Patch,
+         0,
+         false,
+         {3.0, false, 1},
+         {5.0, false, 3},
+         {"FZ", "LE", "3.000000e+0", "1.000000e+0", "4.000000e+0", "2.000000e+0"}},
     };
     for (const BeamCase& c : cases) {
         CVynData model = BeamModel();
@@ -219,6 +225,17 @@ TEST_F(NasLoads, BeamLoads) {
         EXPECT_EQ(std::vector<std::string>(cards[0].fields.begin() + 2, cards[0].fields.end()),
                   c.expected);
     }
+}
+
+TEST_F(NasLoads, NothingOfALoadBeyondTheEnds) {
+    CVynData model = BeamModel();
+    Data::CBeamLoad load;
+    load.SetType(BeamLoadType::Point);
+    load.SetPoint(1, {1.5, true, 3});
+    load.SetLoadedEntities(One());
+    model.SetBeamLoad(1, load);
+    EXPECT_EQ(Write(model).Count("PLOAD1"), 0);
+    EXPECT_TRUE(HasNote(L"it lies beyond their ends"));
 }
 
 TEST_F(NasLoads, TrilinearLoadStopsTheExport) {

@@ -135,6 +135,27 @@ TEST_F(OutputExportTest, FiguresAreInTheUnitsOfTheModel) {
     EXPECT_EQ(rows[4][4], "0.0001");
 }
 
+TEST_F(OutputExportTest, EquationsOfPressureAreInTheUnitsOfTheModel) {
+    CUnit units;
+    units.SetUnitString(2, L"mm");
+    units.SetUnitString(7, L"kN/m²");
+    m_model.SetUnits(units);
+    for (const int number : m_model.FaceLoadTable().Numbers()) {
+        m_model.DeleteFaceLoad(number);
+    }
+    Data::CFaceLoad load;
+    load.SetType(FaceLoadType::Equation);
+    load.SetEquation({1000.0, 0.0, 0.0, -5000.0});
+    m_model.SetFaceLoad(1, load);
+    const Rows rows = Body("loads");
+    const auto row = std::find_if(rows.begin(), rows.end(), [](const auto& cells) {
+        return cells.front().starts_with("Face load");
+    });
+    ASSERT_NE(row, rows.end());
+    EXPECT_EQ((*row)[row->size() - 2], "1 0 0 -0.005");
+    EXPECT_EQ(row->back(), "kN/m²");
+}
+
 TEST_F(OutputExportTest, TheListsOfTheViewChoose) {
     m_view.SetNodes(CEntList(L"not 1", SelType::Node));
     const Rows rows = Body("nodes");

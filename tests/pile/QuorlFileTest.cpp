@@ -276,6 +276,20 @@ TEST_F(QuorlFileTest, AllDamagedModulesAreNamed) {
               Texts{kErrors + L"SOIL PROFILES\nRECT LOADS\n" + kWarnings + L"SOIL ZONES\n"});
 }
 
+TEST_F(QuorlFileTest, NumbersThatAModelCanNotHold) {
+    constexpr int kCount = 1200;
+    std::string text = Exported();
+    const std::size_t begin = text.find("BEGIN MODULE,CIRC LOADS");
+    const std::size_t end = text.find("END MODULE,CIRC LOADS");
+    std::string module = "BEGIN MODULE,CIRC LOADS,1," + std::to_string(kCount) + "\n";
+    for (int i = 0; i < kCount; ++i) {
+        module += std::to_string(1 + i * 20'000) + ",Load,1,0,0,0,1,1,0,0\n";
+    }
+    Put(text.replace(begin, end - begin, module));
+    EXPECT_FALSE(Import(m_model));
+    EXPECT_TRUE(m_host.Messages().front().starts_with(kErrors + L"CIRC LOADS\n"));
+}
+
 TEST_F(QuorlFileTest, EveryTruncationIsAnErrorAndLosesNothingElse) {
     const std::string good = Exported();
     for (std::size_t length = 0; length + 1 < good.size(); ++length) {

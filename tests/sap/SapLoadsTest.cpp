@@ -206,6 +206,21 @@ TEST_F(SapLoads, DistributedLoads) {
                                 "    ADD=1 U3=-2.00000,0.00000    D=1.00000    D=3.00000\n");
 }
 
+TEST_F(SapLoads, OnlyWhatLiesOnTheFrame) {
+    CVynData model = BeamModel();
+    auto patch = BeamLoad(BeamLoadType::Patch, Direction::Y, kLocalAxis, 1.0, 3.0);
+    patch.SetPoint(1, {3.0, false, 1.0});
+    patch.SetPoint(2, {5.0, false, 3.0});
+    model.SetBeamLoad(1, patch);
+    auto point = BeamLoad(BeamLoadType::Point, Direction::Y, kLocalAxis, 1.0);
+    point.SetPoint(1, {4.5, false, 1.0});
+    model.SetBeamLoad(2, point);
+    EXPECT_EQ(Case1(model),
+              "  TYPE=CONCENTRATED SPAN\n  TYPE=DISTRIBUTED SPAN\n"
+              "    ADD=1 U3=-1.00000,-2.00000    D=3.00000    D=4.00000\n");
+    EXPECT_NE(writer.ErrorLog().find(L"beyond their ends"), std::wstring::npos);
+}
+
 TEST_F(SapLoads, ProjectedLoadsKeepTheirTotal) {
     // Snow of 10 N per metre of plan on a rafter of 5 m over 3 m of plan, wind on its height of 4
     // m.

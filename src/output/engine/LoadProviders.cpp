@@ -163,8 +163,6 @@ Quantity FaceQuantity(const Data::CFaceLoad& load) {
     switch (load.TypeOf()) {
         case FaceLoadType::Point:
             return Quantity::Force;
-        case FaceLoadType::Equation:
-            return Quantity::None;
         default:
             return Quantity::Stress;
     }
@@ -177,8 +175,11 @@ void FaceLoadRows(CLoadRows& out, const CVynData& model) {
         const bool hasMany = isEquation || load.TypeOf() == FaceLoadType::Corners;
         const Quantity q = FaceQuantity(load);
         out.Begin(ProjectedKind(L"Face load", load, kFaceTypes), number, load).Directed(load);
+        // The coefficients of an equation give the pressure at coordinates in the unit of lengths.
+        const double perLength = 1.0 / UnitFactor(model.Units(), Quantity::Length);
         for (std::size_t k = 0; k < (hasMany ? 4 : 1); ++k) {
-            out.Value(isEquation ? load.Equation()[k] : load.Values()[k], q);
+            out.Value(
+                isEquation ? load.Equation()[k] * (k > 0 ? perLength : 1.0) : load.Values()[k], q);
         }
         out.End(q);
     }

@@ -1,10 +1,19 @@
 #include "output/engine/UlmFormat.h"
 
-#include <algorithm>
+#include <iterator>
+#include <type_traits>
 
 #include "output/engine/Line.h"
 
 namespace Tevra {
+
+namespace {
+
+bool IsAscii(wchar_t c) {
+    return static_cast<std::make_unsigned_t<wchar_t>>(c) < 0x80;
+}
+
+}  // namespace
 
 void CUlmFormatCsv::SetFile(std::ostream* file) {
     m_out = file != nullptr ? std::make_unique<TextOut>(*file) : nullptr;
@@ -21,28 +30,30 @@ void CUlmFormatCsv::WriteLine(std::wstring_view line) {
     if (!m_out) {
         return;
     }
-    if (NeedsQuotes(line)) {
-        WriteCells(line);
+    if (MakePlain(line)) {
+        m_out->Append({m_plain.data(), line.size()});
     } else {
-        // Nearly every line: one pass changes the separators, with no look at the cells.
-        m_line.resize(line.size());
-        std::transform(line.begin(), line.end(), m_line.begin(),
-                       [separator = m_separator](wchar_t c) {
-                           return c == Output::kCellSeparator ? separator : c;
-                       });
-        m_out->AppendWide(m_line);
+        WriteCells(line);
     }
     m_out->EndLine();
 }
 
-bool CUlmFormatCsv::NeedsQuotes(std::wstring_view text) const {
-    const wchar_t separator = m_separator;
-    unsigned found = 0;  // without a branch, so that several characters are looked at in one step
-    for (const wchar_t c : text) {
-        found |= static_cast<unsigned>(c == separator) | static_cast<unsigned>(c == L'"') |
-                 static_cast<unsigned>(c == L'\n') | static_cast<unsigned>(c == L'\r');
+/// Without a branch, so that several characters are looked at in one step.
+bool CUlmFormatCsv::MakePlain(std::wstring_view line) {
+    if (m_plain.size() < line.size()) {
+        m_plain.resize(line.size());
     }
-    return found != 0;
+    const wchar_t separator = m_separator;
+    char* const plain = m_plain.data();
+    unsigned found = IsAscii(separator) ? 0 : 1;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const wchar_t c = line[i];
+        found |= static_cast<unsigned>(!IsAscii(c)) | static_cast<unsigned>(c == separator) |
+                 static_cast<unsigned>(c == L'"') | static_cast<unsigned>(c == L'\n') |
+                 static_cast<unsigned>(c == L'\r');
+        plain[i] = static_cast<char>(c == Output::kCellSeparator ? separator : c);
+    }
+    return found == 0;
 }
 
 void CUlmFormatCsv::WriteCells(std::wstring_view line) {
@@ -56,7 +67,8 @@ void CUlmFormatCsv::WriteCells(std::wstring_view line) {
 }
 
 void CUlmFormatCsv::AppendCell(std::wstring_view cell) {
-    if (!NeedsQuotes(cell)) {
+    const wchar_t inQuotes[] = {m_separator, L'"', L'\n', L'\r'};
+    if (cell.find_first_of({inQuotes, std::size(inQuotes)}) == std::wstring_view::npos) {
         m_out->AppendWide(cell);
         return;
     }

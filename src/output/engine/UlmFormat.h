@@ -45,12 +45,14 @@ public:
     bool Flush();
 
 private:
-    bool NeedsQuotes(std::wstring_view text) const;
+    /// Puts the line, its separators changed, into m_plain; false for the few lines that hold what
+    /// stands in quotes or is not ASCII.
+    bool MakePlain(std::wstring_view line);
     void WriteCells(std::wstring_view line);
     void AppendCell(std::wstring_view cell);
 
     wchar_t m_separator;
-    std::wstring m_line;
+    std::string m_plain;
     std::unique_ptr<TextOut> m_out;
 };
 

@@ -178,6 +178,22 @@ bool EndsModule(std::string_view line, std::string_view name) {
     return Begins(line, kEnd) && line.substr(kEnd.size() + 1) == name;
 }
 
+/// Whether no number of a sorted list stands twice, and whether they lie so close together that a
+/// model can hold them: it keeps them in ranges, of which a few records may not have many.
+bool AreNumbers(const std::vector<int>& refs) {
+    constexpr int kRangeBits = 14;
+    constexpr std::size_t kFreeRanges = 1024;
+    constexpr std::size_t kRecordsPerRange = 16;
+    std::size_t ranges = 0;
+    for (std::size_t i = 0; i < refs.size(); ++i) {
+        if (i > 0 && refs[i] == refs[i - 1]) {
+            return false;
+        }
+        ranges += i == 0 || refs[i] >> kRangeBits != refs[i - 1] >> kRangeBits ? 1U : 0U;
+    }
+    return ranges <= kFreeRanges + refs.size() / kRecordsPerRange;
+}
+
 /// Reads the modules of one file.
 class ModuleReader {
 public:
@@ -247,9 +263,7 @@ private:
             }
             more = m_file.NextLine(m_line);
         }
-        const std::vector<int> refs = module.refs(m_data);
-        return more && EndsModule(m_line, module.name) &&
-               std::adjacent_find(refs.begin(), refs.end()) == refs.end();
+        return more && EndsModule(m_line, module.name) && AreNumbers(module.refs(m_data));
     }
 
     FileIO::CDataFile& m_file;
