@@ -107,7 +107,7 @@ TEST(DynaRefused, NumbersThatAModelCanNotHold) {
     for (int i = 0; i < 1200; ++i) {
         nodes += std::to_string(10'000'000 + i * 20'000) + "\n";
     }
-    ExpectRefused({nodes, 1026, "node 30480000: the numbers are too scattered"});
+    ExpectRefused({nodes, 1094, "node 31840000: the numbers are too scattered"});
 }
 
 TEST(DynaRefused, LinesThatCanNotBeTold) {

@@ -104,6 +104,7 @@ TEST_F(VybRefusedTest, Refused) {
 TEST_F(VybRefusedTest, ResultsBeyondTheFileEndTheCases) {
     ASSERT_TRUE(Read(SmallVyb()));
     const int whole = m_model.NumAnalysisCase();
+    m_model = CVynData();
     VybWriter file = SmallVyb();
     file.entries[21] = 1'000'500;
     EXPECT_TRUE(Read(file));

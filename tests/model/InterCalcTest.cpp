@@ -249,17 +249,17 @@ TEST(InterCalc, AMissingFigureSpoilsNoOther) {
     const double none = std::nan("");
     CVynData plane = whole;
     CaseResults& results = plane.EditResults().Edit(1);
-    const auto blank = [&](ResultKind kind, int entity, int rows) {
+    const auto blank = [&](ResultKind kind, int entity) {
         std::vector<double> values;
-        for (int row = 0; row < rows; ++row) {
+        for (int row = 0; row < results.Find(kind)->NumRow(entity); ++row) {
             const double* given = results.Find(kind)->Row(entity, row);
             values.insert(values.end(), {given[0], none, given[2], none, given[4], none});
         }
         results.Edit(kind).Set(entity, values);
     };
-    blank(ResultKind::NodeDisp, 1, 1);
-    blank(ResultKind::NodeDisp, 2, 1);
-    blank(ResultKind::Elem1DForce, 1, 2);
+    blank(ResultKind::NodeDisp, 1);
+    blank(ResultKind::NodeDisp, 2);
+    blank(ResultKind::Elem1DForce, 1);
     for (const InterKind kind : {InterKind::Displacement, InterKind::Force}) {
         for (const double t : {0.0, 0.5, 1.0}) {
             const InterResult known = At(whole, kind, t);

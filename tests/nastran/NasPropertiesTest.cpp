@@ -135,7 +135,7 @@ TEST_F(NasProperties, FacesOfSolidsAreNamedByTwoNodes) {
         {ElementType::Brick8, 2, {"5", "7"}},
         {ElementType::Wedge6, 2, {"4"}},
         {ElementType::Tetra4, 1, {"1", "4"}},
-        {ElementType::Pyramid5, 2, {"1", "2"}},
+        {ElementType::Pyramid5, 2, {"2", "1"}},
     };
     for (const SolidCase& c : cases) {
         CVynData model = ModelOf({{0, 0, 0},

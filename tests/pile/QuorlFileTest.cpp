@@ -279,9 +279,9 @@ TEST_F(QuorlFileTest, AllDamagedModulesAreNamed) {
 TEST_F(QuorlFileTest, NumbersThatAModelCanNotHold) {
     constexpr int kCount = 1200;
     std::string text = Exported();
-    const std::size_t begin = text.find("BEGIN MODULE,CIRC LOADS");
+    const std::size_t begin = text.find("MODULE,CIRC LOADS");
     const std::size_t end = text.find("END MODULE,CIRC LOADS");
-    std::string module = "BEGIN MODULE,CIRC LOADS,1," + std::to_string(kCount) + "\n";
+    std::string module = "MODULE,CIRC LOADS,1," + std::to_string(kCount) + "\n";
     for (int i = 0; i < kCount; ++i) {
         module += std::to_string(1 + i * 20'000) + ",Load,1,0,0,0,1,1,0,0\n";
     }

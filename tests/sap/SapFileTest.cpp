@@ -153,7 +153,7 @@ const BadCase kBadCases[] = {
      true, L"Beam thermal load 1 is not exported"},
     {"list that can't be read",
      [](CVynData& m) { m.SetNodeLoad(1, LoadOn<Data::CNodeLoad>(L"1 to (", SelType::Node)); }, true,
-     L""},
+     L"is not exported as it loads no node of the file"},
     {"name with line ends",
      [](CVynData& m) {
          CTitles titles;
