@@ -95,6 +95,7 @@ private:
         int panels = 0;
         int sprungEnds = 0;
         int lengthless = 0;
+        int collinear = 0;
         int undirected = 0;
     };
     using DesignGrade = std::pair<MatType, int>;

@@ -122,10 +122,9 @@ void CDynaAnalysis::NoteElements() {
         {m_counts.panels, L"Elements of load panels that are written as shells: "},
         {m_counts.sprungEnds, L"Ends of beams on springs that are written as fixed: "},
         {m_counts.lengthless, L"Beams and cables that are written without length: "},
+        {m_counts.collinear, L"Beams and cables whose orientation node lies on their line: "},
         {m_counts.undirected,
-         L"Springs and dampers that are written without their direction, at a node or between "
-         L"nodes "
-         L"at one place: "},
+         L"Springs and dampers that are written without their direction, as they have no line: "},
     };
     for (const auto& note : notes) {
         if (note.count > 0) {

@@ -41,13 +41,12 @@ ReleaseCodes CodesOf(const Data::CElemConnect& connect) {
     return {ReleaseCode(released & 7U), ReleaseCode(released >> 3U)};
 }
 
-/// Whether a node gives a plane with the ends of an element: not when it lies on their line, nor
-/// when they lie at one place.
-bool IsOffLine(const CVynData& model, const Data::CElement& element, int node) {
+/// Whether a node lies on the line of an element, which then has no plane.
+bool IsOnLine(const CVynData& model, const Data::CElement& element, int node) {
     constexpr double kSmallSine = 1e-6;
     const Vec3<double> line = model.TopoPosition(element, 2) - model.TopoPosition(element, 1);
     const Vec3<double> arm = model.Node(node).Position() - model.TopoPosition(element, 1);
-    return Length(Cross(line, arm)) > kSmallSine * Length(line) * Length(arm);
+    return Length(Cross(line, arm)) <= kSmallSine * Length(line) * Length(arm);
 }
 
 }  // namespace
@@ -59,7 +58,8 @@ bool CDynaAnalysis::OrientationNode(int element, int& node) {
     node = record.OrientationNode();
     const bool isTurned = record.OrientationAngle() != 0.0;  // one that is no number is turned
     m_counts.lengthless += HasNodes(record) && !HasLength(*m_model, record) ? 1 : 0;
-    if (!isTurned && IsNode(node) && IsOffLine(*m_model, record, node)) {
+    if (!isTurned && IsNode(node)) {
+        m_counts.collinear += IsOnLine(*m_model, record, node) ? 1 : 0;
         return true;
     }
     if (!IsNode(record.Topo(1)) || m_highestNode == INT_MAX) {

@@ -105,7 +105,8 @@ void CDynaAnalysis::WriteBeamSection(int section, int part) {
     }
     if (m_task->BeamFormulation() == kIntegratedBeam) {
         AddNote(L"Section", section,
-                L"is written by its properties, where integrated beams have their dimensions");
+                L"is written by area and second moments, which an integrated beam takes for "
+                L"dimensions");
     }
     if (!(p.area > 0.0)) {
         AddNote(L"Section", section, L"is written without an area: its description gives none");

@@ -1,6 +1,7 @@
 #include "io/NumberFormat.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -18,7 +19,7 @@ int ClampPrecision(int precision) {
 }
 
 /// Characters that are copied or moved without a call: nearly every number has no more. There is
-/// always room for as many past the end of a text.
+/// room for as many past the end of a text no longer than that, and past significant digits.
 constexpr std::size_t kBlock = 32;
 
 /// Moves the text from `first` to `last` to the right so that it fills `width`.
@@ -160,7 +161,8 @@ Scientific RoundedDigits(double magnitude, int significant) {
 /// Digits in fixed notation, the decimal point after the one of `exponent`, which is -4 or more.
 char* WritePlain(char* out, const Scientific& number, bool keepPoint) {
     if (number.exponent < 0) {
-        std::memcpy(out, "0.000", 5);  // no exponent below -4 is written so
+        constexpr std::array<char, 5> kZeros{'0', '.', '0', '0', '0'};
+        std::memcpy(out, kZeros.data(), kZeros.size());
         out += 1 - number.exponent;
         return CopyDigits(out, number, 0, number.count);
     }

@@ -19,6 +19,12 @@ Vec3<double> Between(const Vec3<double>& a, const Vec3<double>& b, double t) {
     return a * (1.0 - t) + b * t;
 }
 
+/// The figures of `v`, those of `other` where they are missing.
+Vec3<double> KnownOr(const Vec3<double>& v, const Vec3<double>& other) {
+    return {std::isfinite(v.x) ? v.x : other.x, std::isfinite(v.y) ? v.y : other.y,
+            std::isfinite(v.z) ? v.z : other.z};
+}
+
 /// The moments where the curvature is not known are those of a hinge.
 double Curvature(double moment, double stiffness) {
     return stiffness > 0.0 && std::isfinite(moment) ? moment / stiffness : 0.0;
@@ -184,15 +190,17 @@ InterResult InterSpan::Force(const CPosOn1D& at) const {
     const SpanPlace place = PlaceOf(at);
     const Vec3<double> force = m_forces.Integral(0, place);
     const Vec3<double> moment = m_moments.Integral(0, place);
-    if (at == kEnd2 && IsResult(m_force[1])) {
-        // What was solved for the end holds beyond loads that stand right at it.
-        const SpanPlace beyond{m_frame.length, CPosOn1D(CPosOn1D::kWhole + 1)};
-        return {m_force[1].tran + (m_forces.Integral(0, beyond) - force),
-                m_force[1].rot + (m_moments.Integral(0, beyond) - moment)};
-    }
     const Vec3<double> arm = m_forces.Integral(1, place);
     const Vec3<double> carried{0.0, place.x * start.tran.z - arm.z, arm.y - place.x * start.tran.y};
-    return {start.tran - force, start.rot + carried - moment};
+    const InterResult summed{start.tran - force, start.rot + carried - moment};
+    if (at != kEnd2) {
+        return summed;
+    }
+    // What was solved for the end holds beyond loads that stand right at it.
+    const SpanPlace beyond{m_frame.length, CPosOn1D(CPosOn1D::kWhole + 1)};
+    const InterResult& solved = m_force[1];
+    return {KnownOr(solved.tran + (m_forces.Integral(0, beyond) - force), summed.tran),
+            KnownOr(solved.rot + (m_moments.Integral(0, beyond) - moment), summed.rot)};
 }
 
 }  // namespace Tevra

@@ -102,7 +102,10 @@ void InterSpan::AddInteresting(std::vector<CPosOn1D>& positions) const {
     const std::vector<double> breaks = Breaks();
     double greatest = 0.0;
     for (const double x : breaks) {
-        greatest = std::max(greatest, Length(ShearBeyond(x, x)));
+        const Vec3<double> shear = ShearBeyond(x, x);
+        for (const int component : {1, 2}) {
+            greatest = std::max(greatest, std::fabs(shear[component]));  // not by a missing one
+        }
     }
     constexpr double kNegligible = 1e-9;
     AddZeroShear(1, breaks, kNegligible * greatest, positions);

@@ -104,26 +104,23 @@ void CModelData::ApplyOrientation(Data::CNode& node, const OrientationUse& use) 
 }
 
 void CModelData::CountOrientation(int node, int OrientationUse::*kind, int change) {
-    // Of nodes too scattered to be stored none will ever exist.
-    if (node < 1 ||
-        !(m_orientation.Exist(node) || (change > 0 && m_orientation.HasRoomFor(node)))) {
+    if (node < 1) {
         return;
     }
-    OrientationUse use = m_orientation.Get(node);
+    OrientationUse& use = m_orientation[node];
     use.*kind += change;
-    if (use.elements == 0 && use.members == 0) {
-        m_orientation.Erase(node);
-    } else {
-        m_orientation.Set(node, use);
-    }
     if (Data::CNode* record = m_Node.Find(node)) {
         ApplyOrientation(*record, use);
+    }
+    if (use.elements == 0 && use.members == 0) {
+        m_orientation.erase(node);
     }
 }
 
 void CModelData::BeforeStore(int number, Data::CNode& node) {
     node.m_globalRestraint = m_globalRestraint;
-    ApplyOrientation(node, m_orientation.Get(number));
+    const auto found = m_orientation.find(number);
+    ApplyOrientation(node, found != m_orientation.end() ? found->second : OrientationUse{});
 }
 
 void CModelData::BeforeStore(int number, Data::CElement& element) {

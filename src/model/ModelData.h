@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -351,8 +352,8 @@ private:
     Vbool6 m_globalRestraint;
     MassOptions m_mass;
     Data::RaftSettings m_raft;
-    NumberedTable<OrientationUse> m_orientation;  ///< by node number
-    std::uint64_t m_revision = 0;                 ///< 0 only while nothing was ever stored
+    std::unordered_map<int, OrientationUse> m_orientation;  ///< by node number
+    std::uint64_t m_revision = 0;  ///< 0 only while nothing was ever stored
 };
 
 }  // namespace Tevra

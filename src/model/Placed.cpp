@@ -43,7 +43,7 @@ std::wstring NoteOfCoarseCoordinates(const CVynData& model, int digits) {
         return {};
     }
     return L"The model lies far from the origin: coordinates keep " + std::to_wstring(digits) +
-           L" digits, which are steps of more than a millimetre";
+           L" digits, whose steps are more than a millimetre";
 }
 
 }  // namespace Tevra

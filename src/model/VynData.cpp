@@ -33,8 +33,8 @@ CVynData& CVynData::operator=(const CVynData& o) {
 
 CVynData& CVynData::operator=(CVynData&& o) noexcept {
     if (this != &o) {
+        CModelData::operator=(static_cast<CModelData&&>(o));  // that part of it alone
         m_results = std::move(o.m_results);
-        CModelData::operator=(std::move(o));
         m_dataLock = o.m_dataLock;
         m_derived.reset();
         static const CVynData kEmpty;

@@ -77,7 +77,7 @@ bool CNasFile::WriteBeamLoad(const Data::CBeamLoad& load) {
             WriteBeamLoadOn(load, element);
         }
     }
-    SkipMany(beyond, L"elements", L"it lies beyond their ends");
+    SkipMany(beyond, L"elements", L"none of it lies on them");
     return true;
 }
 

@@ -261,8 +261,9 @@ void CNasFile::WriteCombination(int combination, int set) {
         const double outer = desc.CaseFactor(*m_model, 1, AnalysisRef(number));
         const auto loads = m_model->AnalysisCase(number).Desc().Factors(0);
         if (loads.empty()) {
-            Skip(L"analysis case " + std::to_wstring(number) +
-                 L" takes no part, as it has no loads");
+            AddNote(L"Combination case", combination,
+                    L"is written without analysis case " + std::to_wstring(number) +
+                        L", which has no loads");
         }
         for (const auto& load : loads) {
             factors[load.loadCase] += outer * load.factor;
@@ -274,7 +275,8 @@ void CNasFile::WriteCombination(int combination, int set) {
     if (std::none_of(factors.begin(), factors.end(), [this](const auto& factor) {
             return IsLoadCase(factor.first) && factor.second != 0.0;
         })) {
-        Skip(L"no load case takes part in it, which leaves its card without sets");
+        AddNote(L"Combination case", combination,
+                L"is written without sets, as no load case takes part in it");
     }
     StartCard("LOAD");
     AddInt(set);

@@ -146,8 +146,8 @@ private:
     void WriteOrigin();
     bool WriteEigenCards();
     void WriteBucklingLoads();
-    /// The set under which the gravity loads of a load case are written.
     bool IsLoadCase(int number) const;
+    /// The set under which the gravity loads of a load case are written.
     int GravityCase(int loadCase) const;
     void AddLoadPairs(const std::map<int, double>& factors);
 

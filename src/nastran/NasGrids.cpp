@@ -66,7 +66,7 @@ bool CNasFile::IsAxisWritten(int axis) const {
 Vec3<double> CNasFile::InTargetAxes(int axis, const Vec3<double>& v) const {
     const bool isSpherical =
         m_model->AxisExist(axis) && m_model->Axis(axis).TypeOf() == AxisType::Spherical;
-    return isSpherical ? Vec3<double>{v.x, -v.z, v.y} : v;
+    return isSpherical ? Vec3<double>{v.x, 0.0 - v.z, v.y} : v;
 }
 
 bool CNasFile::WriteAxes() {

@@ -19,21 +19,8 @@ bool AnyInCase(const NumberedTable<Load>& loads, int loadCase) {
                        [&](int number) { return loads.Get(number).LoadCase() == loadCase; });
 }
 
-/// Where an element lies between its nodes, which are its ends in the file: from `start`, over
-/// `share` of their distance.
-struct BetweenNodes {
-    double start = 0.0;
-    double share = 1.0;
-};
-
-BetweenNodes PlaceOf(const CVynData& model, int element) {
-    const Data::COffset& offset = model.Elem(element).Offset();
-    if (offset.X1() == 0.0 && offset.X2() == 0.0) {
-        return {};
-    }
-    const double length = model.ElemLen(element);
-    const double nodes = length + offset.X1() - offset.X2();
-    return {offset.X1() / nodes, length / nodes};
+bool HasAxialOffset(const Data::CElement& element) {
+    return element.Offset().X1() != 0.0 || element.Offset().X2() != 0.0;
 }
 
 void TellIf(bool has, const wchar_t* text) {
@@ -127,7 +114,6 @@ bool COpenseesFile::WriteBeamLoads(OpsContext& c) {
     return true;
 }
 
-/// A place is told between the nodes, and a load on an element with offsets along it keeps its sum.
 /// Kept: the part along the element has no place in the commands as they are written.
 void COpenseesFile::WriteBeamLoad(OpsContext& c, int number) {
     const Data::CBeamLoad& load = m_model->BeamLoad(number);
@@ -135,6 +121,7 @@ void COpenseesFile::WriteBeamLoad(OpsContext& c, int number) {
     bool hasAxial = false;
     int others = 0;
     int beyond = 0;
+    int offset = 0;
     for (const int element : load.GetLoadedElements(*m_model, 1)) {
         if (c.WrittenAs(element) != OpsKind::Beam) {
             ++others;
@@ -145,16 +132,15 @@ void COpenseesFile::WriteBeamLoad(OpsContext& c, int number) {
             ++beyond;
             continue;
         }
-        const BetweenNodes place = PlaceOf(*m_model, element);
-        const Vec3<double> value = WithoutRoundOff(UnitBeamLoad(*m_model, load, element) *
-                                                   (load.Value(1) * (isPoint ? 1.0 : place.share)));
+        offset += HasAxialOffset(m_model->Elem(element)) ? 1 : 0;
+        const Vec3<double> value =
+            WithoutRoundOff(UnitBeamLoad(*m_model, load, element) * load.Value(1));
         hasAxial = hasAxial || value.x != 0.0;
         c.line.Append("eleLoad -ele ").Int(element).Append(" -type ");
         c.line.Append(isPoint ? "-beamPoint " : "-beamUniform ");
         c.line.General(value.y).Append(' ').General(value.z);
         if (isPoint) {
-            const double at = load.PosIsFraction(1) ? load.Pos(1) : load.Pos(1) / length;
-            c.line.Append(' ').General(place.start + at * place.share);
+            c.line.Append(' ').General(load.PosIsFraction(1) ? load.Pos(1) : load.Pos(1) / length);
         }
         End(c, L"Beam load", number);
     }
@@ -162,9 +148,13 @@ void COpenseesFile::WriteBeamLoad(OpsContext& c, int number) {
     if (hasAxial) {
         AddNote(name + L" is exported without its part along the elements");
     }
+    if (offset > 0) {
+        AddNote(name + L" acts between the nodes of elements with offsets along them: " +
+                std::to_wstring(offset));
+    }
     if (beyond > 0) {
-        AddNote(name + L" is not exported for " + std::to_wstring(beyond) +
-                L" elements as it lies beyond their ends");
+        AddNote(name + L" is not exported for elements on which none of it lies: " +
+                std::to_wstring(beyond));
     }
     if (others > 0) {
         AddNote(name + L" is not exported for " + std::to_wstring(others) +

@@ -90,15 +90,15 @@ private:
 
     /// Whether loads of an axis can't be written, as it is curved.
     bool IsCurved(int axis) const;
-    /// Ends a record; notes it when it is left out, as one of its values is not a number.
-    /// Elements of the file that a load acts on; notes the others.
     void NoteLoadsWithoutCase(const SapContext& c);
     std::vector<int> FramesUnder(SapContext& c, const Data::CBeamLoad& load, int number);
+    /// Elements of the file that a load acts on; notes the others.
     std::vector<int> LoadedFrames(SapContext& c, const Data::CLoadBase& load, const wchar_t* kind,
                                   int number);
     std::vector<int> LoadedFaces(SapContext& c, const Data::CLoadBase& load, const wchar_t* kind,
                                  int number);
     void NoteOthers(const wchar_t* kind, int number, std::size_t others);
+    /// Ends a record; notes it when it is left out, as one of its values is not a number.
     void End(SapContext& c, const wchar_t* kind, int number);
 };
 

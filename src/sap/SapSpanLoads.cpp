@@ -63,9 +63,9 @@ std::vector<int> CSapFile::FramesUnder(SapContext& c, const Data::CBeamLoad& loa
     const std::size_t beyond =
         std::erase_if(frames, [&](int element) { return !IsOn(*m_model, load, element); });
     if (beyond > 0) {
-        AddNote(L"Beam load", number,
-                L"is not exported for " + std::to_wstring(beyond) +
-                    L" elements as it lies beyond their ends");
+        AddNote(
+            L"Beam load", number,
+            L"is not exported for elements on which none of it lies: " + std::to_wstring(beyond));
     }
     return frames;
 }
@@ -131,11 +131,11 @@ bool CSapFile::WriteDistributedLoads(SapContext& c, int loadCase) {
             AddNote(kCurvedNote);
             continue;
         }
-        const std::vector<int> elements = FramesUnder(c, load, number);
         if (load.TypeOf() == BeamLoadType::Trilinear) {
             AddError(L"this feature does not suppor non-uniform member loads");
             return false;
         }
+        const std::vector<int> elements = FramesUnder(c, load, number);
         const int own = m_model->AxisExist(load.Axis()) ? load.Axis() : kGlobalAxis;
         if (load.Axis() != kLocalAxis && own != axis && !elements.empty()) {
             c.out.Append("    CSYS=").Int(own).EndLine();

@@ -235,7 +235,7 @@ TEST_F(NasLoads, NothingOfALoadBeyondTheEnds) {
     load.SetLoadedEntities(One());
     model.SetBeamLoad(1, load);
     EXPECT_EQ(Write(model).Count("PLOAD1"), 0);
-    EXPECT_TRUE(HasNote(L"it lies beyond their ends"));
+    EXPECT_TRUE(HasNote(L"none of it lies on them"));
 }
 
 TEST_F(NasLoads, TrilinearLoadStopsTheExport) {

@@ -65,27 +65,28 @@ TEST_F(OpsLoads, PointsAndUniformLoads) {
     EXPECT_EQ(writer.ErrorLog(), L"");
 }
 
-/// A metre of the four between the nodes is offset: a load on the middle of the rest acts at 2.5 m,
-/// and a uniform one keeps its sum on all of them.
+/// The place is a fraction of the element's own length, a metre less than between the nodes.
 TEST_F(OpsLoads, BeamsWithOffsetsAndPlacesBeyondTheEnds) {
     CVynData model = BeamModel();
     Data::CElement beam = model.Elem(1);
     beam.SetOffset({1.0, 0.0, 0.0, 0.0});
     model.SetElem(1, beam);
     auto load = BeamLoad(BeamLoadType::Point, Direction::Z, kLocalAxis, 300.0);
-    load.SetPoint(1, {0.5, true, 300.0});
+    load.SetPoint(1, {0.75, false, 300.0});
     model.SetBeamLoad(1, load);
     load.SetPoint(1, {3.5, false, 300.0});
     model.SetBeamLoad(2, load);
     model.SetBeamLoad(3, BeamLoad(BeamLoadType::Uniform, Direction::Z, kLocalAxis, 400.0));
     WriteText(model);
     EXPECT_TRUE(
-        Has("eleLoad -ele 1 -type -beamPoint 0 300 0.625\n"
-            "eleLoad -ele 1 -type -beamUniform 0 300\n}\n"))
+        Has("eleLoad -ele 1 -type -beamPoint 0 300 0.25\n"
+            "eleLoad -ele 1 -type -beamUniform 0 400\n}\n"))
         << text;
-    EXPECT_NE(writer.ErrorLog().find(L"Beam load 2 is not exported for 1 element"),
+    EXPECT_NE(writer.ErrorLog().find(
+                  L"Beam load 2 is not exported for elements on which none of it lies: 1"),
               std::wstring::npos)
         << testing::PrintToString(writer.ErrorLog());
+    EXPECT_NE(writer.ErrorLog().find(L"Beam load 3 acts between the nodes"), std::wstring::npos);
 }
 
 /// A load in a global direction, resolved by hand: its part square to the element is what the local
